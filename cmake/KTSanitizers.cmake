@@ -1,0 +1,14 @@
+# KT_SANITIZE: "" (none), "address" (with undefined behaviour) or "thread".
+set(KT_SANITIZE "" CACHE STRING "Sanitizers to build everything with: address or thread")
+set_property(CACHE KT_SANITIZE PROPERTY STRINGS "" address thread)
+
+if(KT_SANITIZE STREQUAL "address")
+    add_compile_options(-fsanitize=address,undefined,float-cast-overflow
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+elseif(KT_SANITIZE STREQUAL "thread")
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+elseif(KT_SANITIZE)
+    message(FATAL_ERROR "KT_SANITIZE is '${KT_SANITIZE}'; it must be empty, address or thread")
+endif()

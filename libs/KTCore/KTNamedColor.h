@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ktcore_export.h"
+
+class QColor;
+class QString;
+
+/** Colours as the dialogs show them. */
+class KTCORE_EXPORT KTNamedColor
+{
+public:
+    /** A small swatch of the colour as an HTML fragment for rich text; an invalid colour gives an empty text.
+     */
+    [[nodiscard]] static QString renderColorPreviewHTML(const QColor &color);
+};

@@ -1,0 +1,3 @@
+#include "KTArticleIdList.h"
+
+KTArticleIdList::~KTArticleIdList() = default;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "KTArticleId.h"
+
+#include <QSet>
+
+/** Article ids without order and without doubles. */
+class KTPRODUCTBASE_EXPORT KTArticleIdSet : public QSet<KTArticleId>
+{
+public:
+    KTArticleIdSet() = default;
+    /** Shares the data of the set. */
+    KTArticleIdSet(const QSet<KTArticleId> &other);
+    KTArticleIdSet(const KTArticleIdSet &other) = default;
+    KTArticleIdSet(KTArticleIdSet &&other) noexcept = default;
+    KTArticleIdSet &operator=(const KTArticleIdSet &other) = default;
+    KTArticleIdSet &operator=(KTArticleIdSet &&other) noexcept = default;
+    virtual ~KTArticleIdSet();
+
+    /** True when no id of the other set is missing; so for an equal and for an empty one. */
+    bool extends(const KTArticleIdSet &other) const;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "KTArticleVariants.h"
+
+#include <QList>
+
+/** Sets of options in the order they were added. */
+class KTPRODUCTBASE_EXPORT KTArticleVariantsList : public QList<KTArticleVariants>
+{
+public:
+    KTArticleVariantsList() = default;
+    KTArticleVariantsList(const KTArticleVariantsList &other) = default;
+    KTArticleVariantsList(KTArticleVariantsList &&other) noexcept = default;
+    KTArticleVariantsList &operator=(const KTArticleVariantsList &other) = default;
+    KTArticleVariantsList &operator=(KTArticleVariantsList &&other) noexcept = default;
+    virtual ~KTArticleVariantsList();
+
+    /** True when some element contains the options, see KTArticleVariants::contains(). */
+    bool containsBoxStyle(const KTArticleVariants &variants) const;
+};

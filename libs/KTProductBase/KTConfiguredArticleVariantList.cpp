@@ -1,0 +1,233 @@
+#include "KTConfiguredArticleVariantList.h"
+
+#include <KTStringLiteral.h>
+
+#include <QDebug>
+#include <QDomElement>
+
+#include <algorithm>
+
+namespace {
+
+constexpr KTStringLiteral FORMS_ELEMENT = "forms";
+constexpr KTStringLiteral FORM_ELEMENT = "form";
+constexpr KTStringLiteral ORDER_TXT_TEMPLATE = "%1:%2";
+constexpr QChar CSV_SEPARATOR = u',';
+constexpr QChar COMPOUND_SEPARATOR = u';';
+constexpr QChar ORDER_TXT_SEPARATOR = u';';
+
+bool matches(const KTConfiguredArticleVariant &variant, const KTArticleVariants &chosen)
+{
+    return variant.value() == chosen.value(variant.key(), QString());
+}
+
+} // namespace
+
+KTConfiguredArticleVariantList::KTConfiguredArticleVariantList(const QDomElement &element)
+{
+    readVariants(element);
+}
+
+KTConfiguredArticleVariantList::KTConfiguredArticleVariantList(const KTConfiguredArticleVariant &variant)
+{
+    appendIfValid(variant);
+}
+
+KTConfiguredArticleVariantList::~KTConfiguredArticleVariantList() = default;
+
+KTConfiguredArticleVariantList KTConfiguredArticleVariantList::createFromCSV(const QString &text)
+{
+    KTConfiguredArticleVariantList variants;
+    for (const QString &part : text.split(CSV_SEPARATOR, Qt::SkipEmptyParts))
+        variants.appendIfValid(KTConfiguredArticleVariant(part));
+    return variants;
+}
+
+KTConfiguredArticleVariantList
+KTConfiguredArticleVariantList::createForProduction(const KTConfiguredArticleVariant &variant)
+{
+    // Splitting drops empty parts, so there is no invalid option to skip.
+    return createFromReduced(variant);
+}
+
+KTConfiguredArticleVariantList
+KTConfiguredArticleVariantList::createFromReduced(const KTConfiguredArticleVariant &variant)
+{
+    KTConfiguredArticleVariantList variants;
+    const QStringList keys = variant.key().split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
+    const QStringList values = variant.value().split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
+    if (keys.size() != values.size())
+        return variants;
+    for (int i = 0; i < keys.size(); ++i)
+        variants.append(KTConfiguredArticleVariant(keys.at(i), values.at(i)));
+    return variants;
+}
+
+void KTConfiguredArticleVariantList::readVariants(const QDomElement &element)
+{
+    clear();
+    const QDomElement forms = element.firstChildElement(FORMS_ELEMENT);
+    for (QDomElement form = forms.firstChildElement(FORM_ELEMENT); !form.isNull();
+         form = form.nextSiblingElement(FORM_ELEMENT)) {
+        appendIfValid(KTConfiguredArticleVariant(form));
+    }
+}
+
+QStringList KTConfiguredArticleVariantList::keys() const
+{
+    QStringList keys;
+    for (const KTConfiguredArticleVariant &variant : *this)
+        keys.append(variant.key());
+    keys.removeDuplicates();
+    keys.sort();
+    return keys;
+}
+
+KTConfiguredArticleVariantList KTConfiguredArticleVariantList::filter(const QString &key) const
+{
+    return filtered([&key](const KTConfiguredArticleVariant &variant) { return variant.key() == key; });
+}
+
+bool KTConfiguredArticleVariantList::contains(const KTConfiguredArticleVariant &variant) const
+{
+    return std::find(begin(), end(), variant) != end();
+}
+
+bool KTConfiguredArticleVariantList::contains(const KTConfiguredArticleVariantList &other) const
+{
+    return std::all_of(other.begin(), other.end(),
+                       [this](const KTConfiguredArticleVariant &variant) { return contains(variant); });
+}
+
+bool KTConfiguredArticleVariantList::contains(const KTArticleVariants &chosen) const
+{
+    const QStringList keys = chosen.keys();
+    return std::all_of(keys.begin(), keys.end(), [this, &chosen](const QString &key) {
+        return contains(KTConfiguredArticleVariant(key, chosen.value(key, QString())));
+    });
+}
+
+bool KTConfiguredArticleVariantList::containsAtLeastOne(const KTConfiguredArticleVariantList &other) const
+{
+    return isEmpty() || other.isEmpty()
+        || std::any_of(other.begin(), other.end(),
+                       [this](const KTConfiguredArticleVariant &variant) { return contains(variant); });
+}
+
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::variant(const KTArticleVariants &chosen) const
+{
+    return first([&chosen](const KTConfiguredArticleVariant &variant) { return matches(variant, chosen); });
+}
+
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::variantByKey(const QString &key) const
+{
+    return first([&key](const KTConfiguredArticleVariant &variant) { return variant.key() == key; });
+}
+
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::variantByValue(const QString &value) const
+{
+    return first([&value](const KTConfiguredArticleVariant &variant) { return variant.value() == value; });
+}
+
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::notAccountableVariant() const
+{
+    return first([](const KTConfiguredArticleVariant &variant) { return variant.isNotAccountable(); });
+}
+
+KTArticleVariants KTConfiguredArticleVariantList::defaultVariants() const
+{
+    KTArticleVariants variants;
+    for (const KTConfiguredArticleVariant &variant : *this) {
+        if (variant.isDefault())
+            variants.insert(variant.toArticleVariants());
+    }
+    return variants;
+}
+
+QStringList KTConfiguredArticleVariantList::visibleNames(const KTArticleVariants &chosen) const
+{
+    QStringList names;
+    for (const KTConfiguredArticleVariant &variant : *this) {
+        if (matches(variant, chosen))
+            names.append(QStringLiteral("%1: %2").arg(variant.keyName(), variant.visibleName()));
+    }
+    names.sort();
+    return names;
+}
+
+QStringList KTConfiguredArticleVariantList::editorNames(const KTArticleVariants &chosen) const
+{
+    QStringList names;
+    for (const KTConfiguredArticleVariant &variant : *this) {
+        if (matches(variant, chosen))
+            names.append(variant.editorName());
+    }
+    names.sort();
+    return names;
+}
+
+KTArticleVariantsList KTConfiguredArticleVariantList::possibleBoxStyles() const
+{
+    const KTConfiguredArticleVariantList photos = filter(KTArticleVariants::coverFotoKeyName());
+    KTArticleVariantsList styles;
+    for (const KTConfiguredArticleVariant &box : filter(KTArticleVariants::pictureBoxKeyName())) {
+        if (photos.isEmpty())
+            styles.append(box.toArticleVariants());
+        for (const KTConfiguredArticleVariant &photo : photos) {
+            KTArticleVariants style = box.toArticleVariants();
+            style.insert(photo.toArticleVariants());
+            styles.append(style);
+        }
+    }
+    return styles;
+}
+
+QString KTConfiguredArticleVariantList::joinForOrderTxt() const
+{
+    QStringList pairs;
+    for (const KTConfiguredArticleVariant &variant : *this) {
+        // Filled in one after the other, as KTArticleVariants::toOrderTxt() does.
+        for (const KTConfiguredArticleVariant &part : createForProduction(variant))
+            pairs.append(QString(ORDER_TXT_TEMPLATE).arg(part.key()).arg(part.value()));
+    }
+    return pairs.join(ORDER_TXT_SEPARATOR);
+}
+
+void KTConfiguredArticleVariantList::intersect(const KTConfiguredArticleVariantList &other,
+                                               bool adoptWhenEmpty)
+{
+    if (isEmpty() && adoptWhenEmpty)
+        *this = other;
+    else
+        *this = filtered(
+            [&other](const KTConfiguredArticleVariant &variant) { return other.contains(variant); });
+}
+
+template <typename Predicate>
+KTConfiguredArticleVariantList KTConfiguredArticleVariantList::filtered(Predicate predicate) const
+{
+    KTConfiguredArticleVariantList variants;
+    std::copy_if(begin(), end(), std::back_inserter(variants), predicate);
+    return variants;
+}
+
+template <typename Predicate>
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::first(Predicate predicate) const
+{
+    const auto found = std::find_if(begin(), end(), predicate);
+    return found == end() ? KTConfiguredArticleVariant() : *found;
+}
+
+void KTConfiguredArticleVariantList::appendIfValid(const KTConfiguredArticleVariant &variant)
+{
+    if (variant.isValid())
+        append(variant);
+}
+
+QDebug operator<<(QDebug stream, const KTConfiguredArticleVariantList &variants)
+{
+    stream << "KTConfiguredArticleVariantList: [";
+    for (int i = 0; i < variants.size(); ++i)
+        stream << i << ": " << variants.at(i);
+    return stream << " ]";
+}

@@ -1,0 +1,3 @@
+#include "KTConfiguredArticleVariantRegistryAbstract.h"
+
+KTConfiguredArticleVariantRegistryAbstract::~KTConfiguredArticleVariantRegistryAbstract() = default;

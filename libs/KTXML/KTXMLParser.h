@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ktxml_export.h"
+
+#include <KTDistance.h>
+
+#include <QString>
+
+class KTDistanceUnit;
+class QDomElement;
+class QDomNamedNodeMap;
+
+/**
+ * Typed attributes of an element, each with the default for an attribute that is missing or unreadable.
+ *
+ * Nothing is reported. Numbers are read as QString::toInt() and toDouble() read them; one that is out of
+ * range or not finite is unreadable. A null element reads as if every attribute were missing.
+ */
+class KTXML_EXPORT KTXMLParser
+{
+public:
+    /** The text as it stands; an attribute without text is not missing. The last argument has no effect. */
+    [[nodiscard]] static QString attribute(const QDomElement &element, const QString &name,
+                                           const QString &defaultValue, bool reserved = true);
+    [[nodiscard]] static int intAttribute(const QDomElement &element, const QString &name, int defaultValue);
+    [[nodiscard]] static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name,
+                                          int defaultValue);
+    /** "true" and "1", "false" and "0", in any letter case. */
+    [[nodiscard]] static bool boolAttribute(const QDomElement &element, const QString &name,
+                                            bool defaultValue);
+    [[nodiscard]] static double doubleAttribute(const QDomElement &element, const QString &name,
+                                                double defaultValue);
+    /** A length given, like its default, as a number of the unit. */
+    [[nodiscard]] static KTDistance readDistance(const QDomElement &element, const QString &name,
+                                                 double defaultValue, const KTDistanceUnit &unit);
+};
