@@ -9,6 +9,15 @@ if(KT_SANITIZE STREQUAL "address")
 elseif(KT_SANITIZE STREQUAL "thread")
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
     add_link_options(-fsanitize=thread)
+    add_library(KTThreadAnnotations STATIC cmake/KTThreadAnnotations.cpp)
+    target_link_libraries(KTThreadAnnotations PRIVATE Qt5::Core)
+    link_libraries("$<BUILD_INTERFACE:KTThreadAnnotations>")
+    foreach(lock
+            _ZN6QMutex4lockEv _ZN6QMutex6unlockEv _ZN6QMutex7tryLockEi
+            _ZN14QReadWriteLock11lockForReadEv _ZN14QReadWriteLock12lockForWriteEv
+            _ZN14QReadWriteLock6unlockEv)
+        add_link_options("LINKER:--wrap=${lock}")
+    endforeach()
 elseif(KT_SANITIZE)
     message(FATAL_ERROR "KT_SANITIZE is '${KT_SANITIZE}'; it must be empty, address or thread")
 endif()

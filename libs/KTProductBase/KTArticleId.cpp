@@ -23,7 +23,8 @@ constexpr KTStringLiteral ARTICLE_ARTICLE_ID_KEY = "article_id";
 constexpr int FOTOS_WITHOUT_VARIABLE_LENGTH[] = {9024, 9025, 9026};
 constexpr int ADVENT_CALENDARS_WITH_DOOR_BACK_PRINT[] = {6322, 6323, 6513, 6514};
 
-template <std::size_t N> bool contains(const int (&ids)[N], int id)
+template <std::size_t N>
+bool contains(const int (&ids)[N], int id)
 {
     return std::find(std::begin(ids), std::end(ids), id) != std::end(ids);
 }

@@ -53,7 +53,8 @@ QString filled(const QString &pairTemplate, const QString &key, const QString &v
 }
 
 /** Calls the function with each key part and its value part, unless the two differ in number. */
-template <typename Function> void forEachPart(const QString &key, const QString &value, Function function)
+template <typename Function>
+void forEachPart(const QString &key, const QString &value, Function function)
 {
     const QStringList keyParts = key.split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
     const QStringList valueParts = value.split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);

@@ -49,7 +49,8 @@ public:
     /** The pair that stands for a black gift box. */
     [[nodiscard]] static KTArticleVariants blackCFBGiftBox();
 
-    /** @name Well-known keys and values @{ */
+    /** @name Well-known keys and values */
+    /** @{ */
     static QString coverColorKeyName();
     static QString coverFotoKeyName();
     static QString pictureBoxKeyName();

@@ -116,22 +116,24 @@ bool KTConfiguredArticleVariantList::containsAtLeastOne(const KTConfiguredArticl
 
 KTConfiguredArticleVariant KTConfiguredArticleVariantList::variant(const KTArticleVariants &chosen) const
 {
-    return first([&chosen](const KTConfiguredArticleVariant &variant) { return matches(variant, chosen); });
+    return firstWhere(
+        [&chosen](const KTConfiguredArticleVariant &variant) { return matches(variant, chosen); });
 }
 
 KTConfiguredArticleVariant KTConfiguredArticleVariantList::variantByKey(const QString &key) const
 {
-    return first([&key](const KTConfiguredArticleVariant &variant) { return variant.key() == key; });
+    return firstWhere([&key](const KTConfiguredArticleVariant &variant) { return variant.key() == key; });
 }
 
 KTConfiguredArticleVariant KTConfiguredArticleVariantList::variantByValue(const QString &value) const
 {
-    return first([&value](const KTConfiguredArticleVariant &variant) { return variant.value() == value; });
+    return firstWhere(
+        [&value](const KTConfiguredArticleVariant &variant) { return variant.value() == value; });
 }
 
 KTConfiguredArticleVariant KTConfiguredArticleVariantList::notAccountableVariant() const
 {
-    return first([](const KTConfiguredArticleVariant &variant) { return variant.isNotAccountable(); });
+    return firstWhere([](const KTConfiguredArticleVariant &variant) { return variant.isNotAccountable(); });
 }
 
 KTArticleVariants KTConfiguredArticleVariantList::defaultVariants() const
@@ -212,7 +214,7 @@ KTConfiguredArticleVariantList KTConfiguredArticleVariantList::filtered(Predicat
 }
 
 template <typename Predicate>
-KTConfiguredArticleVariant KTConfiguredArticleVariantList::first(Predicate predicate) const
+KTConfiguredArticleVariant KTConfiguredArticleVariantList::firstWhere(Predicate predicate) const
 {
     const auto found = std::find_if(begin(), end(), predicate);
     return found == end() ? KTConfiguredArticleVariant() : *found;

@@ -75,8 +75,10 @@ public:
     void intersect(const KTConfiguredArticleVariantList &other, bool adoptWhenEmpty);
 
 private:
-    template <typename Predicate> KTConfiguredArticleVariantList filtered(Predicate predicate) const;
-    template <typename Predicate> KTConfiguredArticleVariant first(Predicate predicate) const;
+    template <typename Predicate>
+    KTConfiguredArticleVariantList filtered(Predicate predicate) const;
+    template <typename Predicate>
+    KTConfiguredArticleVariant firstWhere(Predicate predicate) const;
 
     void appendIfValid(const KTConfiguredArticleVariant &variant);
 };

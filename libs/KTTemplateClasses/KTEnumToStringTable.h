@@ -23,7 +23,8 @@
  * by the classification class over the enumeration, and only read afterwards, from any thread without a lock.
  * No operation fails: what is not in the table yields a default.
  */
-template <typename ENUM> class Q_DECL_EXPORT KTEnumToStringTable
+template <typename ENUM>
+class Q_DECL_EXPORT KTEnumToStringTable
 {
 public:
     /**
@@ -85,14 +86,16 @@ private:
     ENUM decodePart(QStringView part, QString *buffer) const;
 };
 
-template <typename ENUM> void KTEnumToStringTable<ENUM>::insert(const QString &keyword, ENUM value)
+template <typename ENUM>
+void KTEnumToStringTable<ENUM>::insert(const QString &keyword, ENUM value)
 {
     keywordToValue.insert(keyword.toLower(), value);
     if (!valueToKeyword.contains(value))
         valueToKeyword.insert(value, keyword);
 }
 
-template <typename ENUM> ENUM KTEnumToStringTable<ENUM>::decode(const QString &text, ENUM fallback) const
+template <typename ENUM>
+ENUM KTEnumToStringTable<ENUM>::decode(const QString &text, ENUM fallback) const
 {
     return keywordToValue.value(text.trimmed().toLower(), fallback);
 }
@@ -111,7 +114,8 @@ ENUM KTEnumToStringTable<ENUM>::decodeOneElement(const QString &text, bool warn)
     return defaultValue;
 }
 
-template <typename ENUM> ENUM KTEnumToStringTable<ENUM>::decodeCSV(const QString &text) const
+template <typename ENUM>
+ENUM KTEnumToStringTable<ENUM>::decodeCSV(const QString &text) const
 {
     if (!text.contains(KOMMA)) {
         const ENUM value = decode(text, UNKNOWN);
@@ -134,7 +138,8 @@ template <typename ENUM> ENUM KTEnumToStringTable<ENUM>::decodeCSV(const QString
  * Decodes one entry of a list without a string of its own: an entry in ASCII is lower-cased into the buffer.
  * Others take the general way, because their lower case may be longer, or ASCII though they are not.
  */
-template <typename ENUM> ENUM KTEnumToStringTable<ENUM>::decodePart(QStringView part, QString *buffer) const
+template <typename ENUM>
+ENUM KTEnumToStringTable<ENUM>::decodePart(QStringView part, QString *buffer) const
 {
     const QStringView trimmed = part.trimmed();
     buffer->resize(0);
@@ -147,12 +152,14 @@ template <typename ENUM> ENUM KTEnumToStringTable<ENUM>::decodePart(QStringView 
     return keywordToValue.value(*buffer, UNKNOWN);
 }
 
-template <typename ENUM> QString KTEnumToStringTable<ENUM>::encode(ENUM value) const
+template <typename ENUM>
+QString KTEnumToStringTable<ENUM>::encode(ENUM value) const
 {
     return valueToKeyword.value(value, defaultKeyword);
 }
 
-template <typename ENUM> QStringList KTEnumToStringTable<ENUM>::encodeAsList(ENUM value) const
+template <typename ENUM>
+QStringList KTEnumToStringTable<ENUM>::encodeAsList(ENUM value) const
 {
     QStringList keywords;
     for (const ENUM bit : splitToBitsSorted(value))
@@ -160,19 +167,22 @@ template <typename ENUM> QStringList KTEnumToStringTable<ENUM>::encodeAsList(ENU
     return keywords;
 }
 
-template <typename ENUM> QString KTEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
+template <typename ENUM>
+QString KTEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
 {
     const QStringList keywords = encodeAsList(value);
     return keywords.isEmpty() ? defaultKeyword : keywords.join(QStringLiteral(", "));
 }
 
-template <typename ENUM> QSet<ENUM> KTEnumToStringTable<ENUM>::splitToBits(ENUM value) const
+template <typename ENUM>
+QSet<ENUM> KTEnumToStringTable<ENUM>::splitToBits(ENUM value) const
 {
     const QList<ENUM> bits = splitToBitsSorted(value);
     return QSet<ENUM>(bits.begin(), bits.end());
 }
 
-template <typename ENUM> QList<ENUM> KTEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value) const
+template <typename ENUM>
+QList<ENUM> KTEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value) const
 {
     QList<ENUM> bits;
     auto rest = static_cast<Unsigned>(value);
@@ -186,7 +196,8 @@ template <typename ENUM> QList<ENUM> KTEnumToStringTable<ENUM>::splitToBitsSorte
     return bits;
 }
 
-template <typename ENUM> QStringList KTEnumToStringTable<ENUM>::allKnownKeywords() const
+template <typename ENUM>
+QStringList KTEnumToStringTable<ENUM>::allKnownKeywords() const
 {
     return keywordToValue.keys();
 }
@@ -199,7 +210,8 @@ QStringList KTEnumToStringTable<ENUM>::allPossibleKeywordsOneElement(ENUM value)
     return keywords;
 }
 
-template <typename ENUM> QStringList KTEnumToStringTable<ENUM>::allPossibleKeywords(ENUM value) const
+template <typename ENUM>
+QStringList KTEnumToStringTable<ENUM>::allPossibleKeywords(ENUM value) const
 {
     QStringList keywords;
     for (const ENUM bit : splitToBitsSorted(value))
@@ -211,7 +223,8 @@ template <typename ENUM> QStringList KTEnumToStringTable<ENUM>::allPossibleKeywo
  * The function named in the warning's context, the same whatever the compiler and build type. Message
  * handlers may keep the pointer, so the text is never freed.
  */
-template <typename ENUM> const char *KTEnumToStringTable<ENUM>::warningFunction()
+template <typename ENUM>
+const char *KTEnumToStringTable<ENUM>::warningFunction()
 {
     static const QByteArray *const myFunction = [] {
         const std::unique_ptr<char, void (*)(void *)> name(

@@ -17,7 +17,8 @@
  * overrides fillTable() alone. The keyword table exists once per enumeration and process; it is built, under
  * a lock, by whichever object asks first. Objects themselves are plain values of one thread.
  */
-template <typename ENUM> class Q_DECL_EXPORT KTEnumWrapper
+template <typename ENUM>
+class Q_DECL_EXPORT KTEnumWrapper
 {
 public:
     KTEnumWrapper(const ENUM &value)
@@ -66,7 +67,8 @@ public:
     /** Sets the value that decodeCSV() reads from the text. */
     void setValue(const QString &text) { myValue = decodeCSV(text); }
 
-    /** @name Keywords; see KTEnumToStringTable. The decoders do not change the object. @{ */
+    /** @name Keywords: see KTEnumToStringTable; the decoders do not change the object */
+    /** @{ */
     ENUM decodeCSV(const QString &text) const { return enumToStringTable()->decodeCSV(text); }
     /** Warns when the text is neither a keyword nor empty. */
     ENUM decodeOneElement(const QString &text) const
@@ -123,7 +125,8 @@ private:
     ENUM myValue;
 };
 
-template <typename ENUM> void KTEnumWrapper<ENUM>::setBit(ENUM bit, bool on)
+template <typename ENUM>
+void KTEnumWrapper<ENUM>::setBit(ENUM bit, bool on)
 {
     if (on)
         expandTo(bit);
@@ -131,13 +134,15 @@ template <typename ENUM> void KTEnumWrapper<ENUM>::setBit(ENUM bit, bool on)
         exclude(bit);
 }
 
-template <typename ENUM> void KTEnumWrapper<ENUM>::toggleBits(const KTEnumWrapper &other)
+template <typename ENUM>
+void KTEnumWrapper<ENUM>::toggleBits(const KTEnumWrapper &other)
 {
     for (const ENUM bit : other.splitToBits())
         setBit(bit, !matches(bit));
 }
 
-template <typename ENUM> int KTEnumWrapper<ENUM>::countBits(int limit) const
+template <typename ENUM>
+int KTEnumWrapper<ENUM>::countBits(int limit) const
 {
     // Counting builds the table like every other question about bits: a caller may count first and then use
     // it.
@@ -148,7 +153,8 @@ template <typename ENUM> int KTEnumWrapper<ENUM>::countBits(int limit) const
     return count;
 }
 
-template <typename ENUM> KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::enumToStringTable() const
+template <typename ENUM>
+KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::enumToStringTable() const
 {
     static QBasicAtomicPointer<KTEnumToStringTable<ENUM>> myTable = Q_BASIC_ATOMIC_INITIALIZER(nullptr);
     if (KTEnumToStringTable<ENUM> *const table = myTable.loadAcquire())
@@ -166,7 +172,8 @@ template <typename ENUM> KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::enumToS
 }
 
 /** Hashes the value; equal wrappers are equal keys. */
-template <typename ENUM> uint qHash(const KTEnumWrapper<ENUM> &wrapper, uint seed = 0)
+template <typename ENUM>
+uint qHash(const KTEnumWrapper<ENUM> &wrapper, uint seed = 0)
 {
     return ::qHash(static_cast<std::underlying_type_t<ENUM>>(wrapper.value()), seed);
 }

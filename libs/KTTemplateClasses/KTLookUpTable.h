@@ -10,7 +10,8 @@
  *
  * Its owner builds it once, sets the defaults, and from then on only reads it, from any thread.
  */
-template <typename K, typename V> class Q_DECL_EXPORT KTLookUpTable
+template <typename K, typename V>
+class Q_DECL_EXPORT KTLookUpTable
 {
 public:
     /** The pairs in the given order; a repeated key keeps its later value. Both defaults are

@@ -9,7 +9,8 @@
  *
  * T derives from KTSingleton<T>, is default-constructible and may override setupInstance().
  */
-template <typename T> class Q_DECL_EXPORT KTSingleton
+template <typename T>
+class Q_DECL_EXPORT KTSingleton
 {
 public:
     /**

@@ -1,0 +1,17 @@
+# Installs the build into a scratch prefix, moves it (a package must not know where it stands), builds the
+# consumer against it and runs it. Called with BUILD_DIR, SOURCE_DIR, SCRATCH_DIR and CXX_COMPILER.
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN}\n${output}")
+    endif()
+endfunction()
+
+file(REMOVE_RECURSE "${SCRATCH_DIR}")
+run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${SCRATCH_DIR}/first")
+file(RENAME "${SCRATCH_DIR}/first" "${SCRATCH_DIR}/moved")
+run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/consumer" -B "${SCRATCH_DIR}/build"
+    "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
+run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/build")
+run("${SCRATCH_DIR}/build/consumer")
+run("${SCRATCH_DIR}/moved/bin/ktcatalogue" --version)

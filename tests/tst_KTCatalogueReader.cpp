@@ -1,0 +1,141 @@
+#include <KTCatalogueReader.h>
+
+#include <QBuffer>
+#include <QtTest>
+
+namespace {
+
+/** A catalogue of one article around the text. */
+QByteArray article(const QByteArray &text)
+{
+    return "<catalogue><article id='1'>" + text + "</article></catalogue>";
+}
+
+QByteArray attributes(int count)
+{
+    QByteArray text = "<e";
+    for (int i = 0; i < count; ++i)
+        text += " a" + QByteArray::number(i) + "=''";
+    return text + "/>";
+}
+
+QByteArray nested(int depth)
+{
+    return QByteArray("<e>").repeated(depth) + QByteArray("</e>").repeated(depth);
+}
+
+} // namespace
+
+class tst_KTCatalogueReader : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsOrRefuses_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<int>("articles");
+        QTest::addColumn<QString>("error");
+        const QString none;
+        const int length = KTCatalogueScanner::MAXIMUM_VALUE_LENGTH;
+        const auto value = [](int size) { return "<e a='" + QByteArray(size, 'x') + "'/>"; };
+        QTest::newRow("two articles")
+            << QByteArray("\xef\xbb\xbf<catalogue><x><article/></x><article id='1'/>t<article/></catalogue>")
+            << 2 << none;
+        QTest::newRow("markup in quiet places")
+            << article("<!-- <e a=' > --><?p <a b='?><![CDATA[ <e a='\">]] ]]>]]<e a='>' b=\"'/\"/>") << 1
+            << none;
+        QTest::newRow("truncated") << QByteArray("<catalogue>\n<article") << 0
+                                   << QStringLiteral("2:9: Premature end of document.");
+        QTest::newRow("empty") << QByteArray() << 0 << QStringLiteral("1:1: Premature end of document.");
+        QTest::newRow("end tag mismatch") << QByteArray("<catalogue>\n  <article></x>") << 0
+                                          << QStringLiteral("2:16: Opening and ending tag mismatch.");
+        QTest::newRow("attribute twice")
+            << article("<e a='1' a='2'/>") << 0 << QStringLiteral("1:44: Attribute 'a' redefined.");
+        QTest::newRow("other root") << QByteArray("\n <html/>") << 0
+                                    << QStringLiteral("2:2: the root element is 'html', not 'catalogue'");
+        QTest::newRow("other encoding")
+            << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><catalogue/>") << 0
+            << QStringLiteral("1:44: the encoding is 'ISO-8859-1', not UTF-8");
+        QTest::newRow("UTF-16") << QByteArray("\xff\xfe<\0c\0", 6) << 0
+                                << QStringLiteral("1:4: a NUL character; the file is not UTF-8 text");
+        QTest::newRow("not UTF-8") << article("<e a='\xe4'/>") << 0 << QStringLiteral("1:");
+        QTest::newRow("document type")
+            << QByteArray("<!DOCTYPE catalogue [<!ENTITY a 'b'>]><catalogue/>") << 0
+            << QStringLiteral("1:1: limit exceeded: a catalogue has no document type declaration");
+        QTest::newRow("unknown entity") << article("<e a='&a;'/>") << 0 << QStringLiteral("1:");
+        QTest::newRow("longest value") << article(value(length)) << 1 << none;
+        QTest::newRow("longer value") << article("\n" + value(length + 1)) << 0
+                                      << QStringLiteral("2:6: limit exceeded: a value of more than 64 KiB");
+        QTest::newRow("longer text") << article(QByteArray(length + 1, 'x')) << 0
+                                     << QStringLiteral("1:27: limit exceeded: a value of more than 64 KiB");
+        QTest::newRow("longer section")
+            << article("<![CDATA[" + QByteArray(length + 1, 'x')) << 0
+            << QStringLiteral("1:28: limit exceeded: a value of more than 64 KiB");
+        QTest::newRow("long comment") << article("<!--" + QByteArray(4 * length, 'x') + "-->") << 1 << none;
+        QTest::newRow("most attributes")
+            << article(attributes(KTCatalogueScanner::MAXIMUM_ATTRIBUTES)) << 1 << none;
+        QTest::newRow("more attributes")
+            << article(attributes(KTCatalogueScanner::MAXIMUM_ATTRIBUTES + 1)) << 0
+            << QStringLiteral("1:8137: limit exceeded: more than 1024 attributes in one element");
+        QTest::newRow("many more attributes")
+            << article(attributes(200000)) << 0
+            << QStringLiteral("1:8137: limit exceeded: more than 1024 attributes in one element");
+        QTest::newRow("deepest") << article(nested(KTCatalogueReader::MAXIMUM_DEPTH - 2)) << 1 << none;
+        QTest::newRow("deeper") << article("\n" + nested(100000)) << 0
+                                << QStringLiteral("2:763: limit exceeded: more than 256 levels of elements");
+    }
+    void readsOrRefuses()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, error);
+        QBuffer buffer(&file);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        KTCatalogueReader reader(&buffer);
+        KTCatalogueArticle article;
+        int articles = 0;
+        while (reader.readNext(&article))
+            ++articles;
+        QVERIFY(!reader.readNext(&article));
+        QTEST(articles, "articles");
+        const KTFilePosition position = reader.errorPosition();
+        const QString text
+            = QStringLiteral("%1:%2: %3").arg(position.line).arg(position.column).arg(reader.errorText());
+        if (error.isNull())
+            QCOMPARE(reader.errorText(), QString());
+        else if (error.size() < 8)
+            QVERIFY2(text.startsWith(error) && text.size() > error.size() + 8, qPrintable(text));
+        else
+            QCOMPARE(text, error);
+    }
+
+    void buildsArticleWithPositions()
+    {
+        QByteArray file("<catalogue>\r\n <article id='1' n='\xc3\xa4\xe2\x82\xac' x:y='&lt;'>\n  "
+                        "<forms><form\n   key='a'\tvalue = \"b\"/></forms></article><article/></catalogue>");
+        QBuffer buffer(&file);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        KTCatalogueReader reader(&buffer);
+        KTCatalogueArticle article;
+        QVERIFY(reader.readNext(&article));
+        QCOMPARE(article.element().attribute(QStringLiteral("n")), QStringLiteral("\u00e4\u20ac"));
+        QCOMPARE(article.element().attribute(QStringLiteral("x:y")), QStringLiteral("<"));
+        const QDomElement form = article.element()
+                                     .firstChildElement(QStringLiteral("forms"))
+                                     .firstChildElement(QStringLiteral("form"));
+        QCOMPARE(form.attribute(QStringLiteral("value")), QStringLiteral("b"));
+        QStringList positions;
+        for (const KTTagPositions &tag : article.tags) {
+            positions.append(QStringLiteral("%1:%2").arg(tag.tag.line).arg(tag.tag.column));
+            for (const KTFilePosition &attribute : tag.attributes)
+                positions.append(QStringLiteral("@%1:%2").arg(attribute.line).arg(attribute.column));
+        }
+        QCOMPARE(positions.join(QLatin1Char(' ')),
+                 QStringLiteral("2:2 @2:11 @2:18 @2:25 3:3 3:10 @4:4 @4:12"));
+        QVERIFY(reader.readNext(&article));
+        QCOMPARE(article.tags.size(), 1);
+        QCOMPARE(article.tags.constFirst().tag.column, 43);
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_KTCatalogueReader)
+#include "tst_KTCatalogueReader.moc"

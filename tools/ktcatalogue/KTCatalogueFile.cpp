@@ -1,0 +1,36 @@
+#include "KTCatalogueFile.h"
+
+#include "KTCommandLine.h"
+
+#include <cstdio>
+
+namespace {
+const QLatin1String STANDARD_INPUT("-");
+}
+
+KTCatalogueFile::KTCatalogueFile(const QString &name)
+    : myName(name)
+    , myFile(name)
+{
+    const bool isOpen
+        = name == STANDARD_INPUT ? myFile.open(stdin, QIODevice::ReadOnly) : myFile.open(QIODevice::ReadOnly);
+    if (isOpen)
+        myReader = std::make_unique<KTCatalogueReader>(&myFile);
+}
+
+std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
+{
+    if (!myReader) {
+        return KTCommandLine::fail(KTExitUnreadable,
+                                   QStringLiteral("%1: error: %2").arg(myName, myFile.errorString()));
+    }
+    if (myReader->errorText().isEmpty())
+        return std::nullopt;
+    const KTFilePosition position = myReader->errorPosition();
+    return KTCommandLine::fail(KTExitUnreadable,
+                               QStringLiteral("%1:%2:%3: error: %4")
+                                   .arg(myName)
+                                   .arg(position.line)
+                                   .arg(position.column)
+                                   .arg(myReader->errorText()));
+}

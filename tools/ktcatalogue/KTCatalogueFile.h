@@ -1,0 +1,37 @@
+#pragma once
+
+#include "KTCatalogueReader.h"
+#include "KTExitCode.h"
+
+#include <QFile>
+
+#include <memory>
+#include <optional>
+
+/** A catalogue named on the command line. */
+class KTCatalogueFile
+{
+public:
+    /** "-" names standard input. */
+    explicit KTCatalogueFile(const QString &name);
+
+    /**
+     * Calls the function with each article, to the end of the file, so that a broken file is found out
+     * wherever it is broken. An exit code means that the file was refused, which is then reported.
+     */
+    template <typename Function>
+    std::optional<KTExitCode> forEachArticle(Function function)
+    {
+        KTCatalogueArticle article;
+        while (myReader && myReader->readNext(&article))
+            function(article);
+        return reportFailure();
+    }
+
+private:
+    std::optional<KTExitCode> reportFailure() const;
+
+    QString myName;
+    QFile myFile;
+    std::unique_ptr<KTCatalogueReader> myReader;
+};

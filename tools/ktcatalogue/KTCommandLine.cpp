@@ -1,0 +1,92 @@
+#include "KTCommandLine.h"
+
+#include "KTSpool.h"
+#include "KTTerminalText.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cstdio>
+
+namespace {
+const QString HELP_OPTION = QStringLiteral("help");
+}
+
+KTCommandLine::KTCommandLine(const QString &command, const QString &description, const QString &example)
+    : myCommand(command)
+{
+    myParser.setApplicationDescription(
+        QStringLiteral("%1\n\nExample:\n  %2 %3 %4")
+            .arg(description, QCoreApplication::applicationName(), command, example));
+    myParser.addOption({
+        {QStringLiteral("h"), HELP_OPTION},
+        QStringLiteral("Displays this help.")
+    });
+    myParser.addPositionalArgument(QStringLiteral("FILE"),
+                                   QStringLiteral("The catalogue; - for standard input."),
+                                   command + QStringLiteral(" FILE"));
+}
+
+std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
+{
+    if (!myParser.parse(QStringList(QCoreApplication::applicationName()) + arguments))
+        return failUsage(myParser.errorText());
+    if (myParser.isSet(HELP_OPTION))
+        return print(myParser.helpText());
+    if (myParser.positionalArguments().size() != 2)
+        return failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
+    return std::nullopt;
+}
+
+QString KTCommandLine::fileName() const
+{
+    return myParser.positionalArguments().at(1);
+}
+
+std::optional<int> KTCommandLine::number(const QCommandLineOption &option) const
+{
+    const QString name = option.names().constFirst();
+    bool ok = false;
+    const int number = myParser.value(option).toInt(&ok);
+    if (ok)
+        return number;
+    if (myParser.isSet(option))
+        failUsage(QStringLiteral("'%1' is no number for --%2").arg(myParser.value(option), name));
+    else
+        failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, name));
+    return std::nullopt;
+}
+
+KTExitCode KTCommandLine::fail(KTExitCode code, const QString &message)
+{
+    const QByteArray line = KTTerminalText::visible(message).toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    return code;
+}
+
+KTExitCode KTCommandLine::failUsage(const QString &message)
+{
+    const QString name = QCoreApplication::applicationName();
+    return fail(KTExitUsage, QStringLiteral("%1: %2; see '%1 --help'").arg(name, message));
+}
+
+KTExitCode KTCommandLine::failNoArticle(int articleId) const
+{
+    return fail(KTExitUnanswerable,
+                QStringLiteral("%1: there is no article %2").arg(fileName()).arg(articleId));
+}
+
+KTExitCode KTCommandLine::print(const QString &text)
+{
+    KTSpool spool;
+    spool.write(text);
+    return deliver(&spool);
+}
+
+KTExitCode KTCommandLine::deliver(KTSpool *spool)
+{
+    QFile output;
+    if (output.open(stdout, QIODevice::WriteOnly) && spool->deliver(&output) && output.flush())
+        return KTExitSuccess;
+    return fail(KTExitUnreadable, QStringLiteral("the output cannot be written"));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "KTExitCode.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QStringList>
+
+#include <optional>
+
+class KTSpool;
+
+/** The arguments of one sub-command, its help with an example, and how it speaks to its user. */
+class KTCommandLine
+{
+public:
+    KTCommandLine(const QString &command, const QString &description, const QString &example);
+
+    QCommandLineParser &parser() { return myParser; }
+    const QCommandLineParser &parser() const { return myParser; }
+
+    /**
+     * Parses what follows the program's name, the command included. An exit code means that there is nothing
+     * left to do: help was printed, or wrong usage reported. One file is expected after the command.
+     */
+    std::optional<KTExitCode> parse(const QStringList &arguments);
+    /** The file given; "-" for standard input. */
+    QString fileName() const;
+    /** The option's value as a number; without one, wrong usage is reported. */
+    std::optional<int> number(const QCommandLineOption &option) const;
+
+    /** Prints one line about what went wrong to standard error and returns the code. */
+    static KTExitCode fail(KTExitCode code, const QString &message);
+    static KTExitCode failUsage(const QString &message);
+    KTExitCode failNoArticle(int articleId) const;
+    /** Prints to standard output; the exit code tells whether that worked. */
+    static KTExitCode print(const QString &text);
+    static KTExitCode deliver(KTSpool *spool);
+
+private:
+    QString myCommand;
+    QCommandLineParser myParser;
+};

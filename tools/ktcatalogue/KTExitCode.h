@@ -1,0 +1,11 @@
+#pragma once
+
+/** How the program ends; the numbers are part of its interface. */
+enum KTExitCode : int {
+    KTExitSuccess = 0,
+    /** The catalogue has no answer to the question. */
+    KTExitUnanswerable = 1,
+    /** A file cannot be read or written, or is no catalogue. */
+    KTExitUnreadable = 2,
+    KTExitUsage = 64,
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/** Text from a file on its way to a terminal. */
+namespace KTTerminalText {
+
+/**
+ * The text with everything made visible that a terminal would obey instead of showing: control characters,
+ * line breaks, bidirectional overrides and lone surrogates are written as "\u001b" and the like.
+ */
+QString visible(const QString &text);
+
+/** JSON text with the same characters escaped; it stays the same JSON. */
+QString visibleJson(const QString &json);
+
+} // namespace KTTerminalText

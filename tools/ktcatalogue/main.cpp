@@ -1,0 +1,80 @@
+#include "KTCommandLine.h"
+#include "KTNearestWord.h"
+#include "KTOrderCommand.h"
+#include "KTShowCommand.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct CommandRow
+{
+    const char *name;
+    const char *description;
+    KTExitCode (*run)(const QStringList &arguments);
+};
+
+constexpr CommandRow COMMANDS[] = {
+    {"show",  "Shows what the library makes of each article.",           &KTShowCommand::run },
+    {"order", "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run},
+};
+
+QString help()
+{
+    QString text = QStringLiteral("Usage: %1 COMMAND FILE [OPTIONS]\n"
+                                  "Makes a catalogue of printed photo products visible.\n\n"
+                                  "Options:\n"
+                                  "  -h, --help     Displays this help.\n"
+                                  "  -v, --version  Displays the versions of the library and of Qt.\n\n"
+                                  "Commands (each has a --help of its own):\n")
+                       .arg(QCoreApplication::applicationName());
+    for (const CommandRow &row : COMMANDS)
+        text += QStringLiteral("  %1 %2\n")
+                    .arg(QString::fromLatin1(row.name).leftJustified(14),
+                         QString::fromLatin1(row.description));
+    return text
+        + QStringLiteral("\nExample:\n  %1 show examples/catalogue.xml --article 7301\n")
+              .arg(QCoreApplication::applicationName());
+}
+
+KTExitCode run(const QStringList &arguments)
+{
+    const QString command = arguments.value(0);
+    if (command == QLatin1String("-h") || command == QLatin1String("--help"))
+        return KTCommandLine::print(help());
+    if (command == QLatin1String("-v") || command == QLatin1String("--version")) {
+        return KTCommandLine::print(QStringLiteral("%1 (KTProductBase) %2, Qt %3\n")
+                                        .arg(QCoreApplication::applicationName(),
+                                             QCoreApplication::applicationVersion(),
+                                             QString::fromLatin1(qVersion())));
+    }
+    QStringList names;
+    for (const CommandRow &row : COMMANDS) {
+        names.append(QString::fromLatin1(row.name));
+        if (command == names.constLast())
+            return row.run(arguments);
+    }
+    if (arguments.isEmpty())
+        return KTCommandLine::failUsage(QStringLiteral("a command is missing"));
+    const QString nearest = KTNearestWord::find(command, names);
+    return KTCommandLine::failUsage(
+        QStringLiteral("unknown command '%1'").arg(command)
+        + (nearest.isNull() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
+}
+
+/** What the library logs is for the user too, one line each. */
+void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    KTCommandLine::fail(KTExitSuccess, QStringLiteral("ktcatalogue: %1").arg(text));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qInstallMessageHandler(&printMessage);
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("ktcatalogue"));
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(KT_VERSION));
+    return run(QCoreApplication::arguments().mid(1));
+}
