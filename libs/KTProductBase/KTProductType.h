@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ktproductbase_export.h"
+
+#include <QMetaType>
+#include <QString>
+
+class KTPriceClass;
+class QDomElement;
+
+/**
+ * The code that names a family of products in the ordering world, such as "CAL29"; empty means unknown.
+ *
+ * A product type is the key of registries and never changes. The constructor shortens the code of an album
+ * to its family: "ALB9_30" becomes "ALB9", so that all its variants are one product type.
+ */
+class KTPRODUCTBASE_EXPORT KTProductType
+{
+public:
+    /**
+     * A code that begins with "A" and contains "ALB" or "ALBS" with ASCII digits behind is shortened to the
+     * first such place. Any other code, and one that is not valid UTF-16, stays as it is.
+     */
+    KTProductType(const QString &code);
+    // Declared so that there is no move, which would leave behind a hash without its code.
+    KTProductType(const KTProductType &other) = default;
+    KTProductType &operator=(const KTProductType &other) = default;
+
+    /** Reads the attribute "productname"; where it is missing, the type is that of "ALB9_30". */
+    [[nodiscard]] static KTProductType fromMcf(const QDomElement &element);
+    /** The product type with the code of the price class. */
+    [[nodiscard]] static KTProductType fromPriceClass(const KTPriceClass &priceClass);
+
+    /** The code; empty for an unknown type. */
+    QString toString() const { return myCode; }
+    /** The code, or "UNKNOWN" for an unknown type, as order texts carry it. */
+    [[nodiscard]] QString orderTxtName() const;
+    bool isValid() const { return !isUnknown(); }
+    /** True without a code; the code "UNKNOWN" is a code like any other. */
+    bool isUnknown() const { return myCode.isEmpty(); }
+    /** True when the code begins with "CAL". */
+    bool isCalendar() const;
+    /** True for the calendars "CAL29" and "CAL30". */
+    bool isAgenda() const;
+    /** Qt's hash of the code, seed 0, calculated once; 0 for an unknown type. */
+    uint calcHashValue() const { return myHashValue; }
+
+    /** True when the hashes are equal and so are the codes without letter case, which the hash respects. */
+    bool operator==(const KTProductType &other) const;
+    bool operator!=(const KTProductType &other) const { return !(*this == other); }
+    /**
+     * Orders by hash, and by code where the hashes are equal; so it is neither alphabetical nor the same on
+     * every machine. Codes that differ in case alone are ordered even if their hashes make them equal.
+     */
+    bool operator<(const KTProductType &other) const;
+
+private:
+    QString myCode;
+    uint myHashValue = 0;
+};
+
+Q_DECLARE_TYPEINFO(KTProductType, Q_MOVABLE_TYPE);
+
+inline uint qHash(const KTProductType &type, uint seed = 0)
+{
+    return type.calcHashValue() ^ seed;
+}

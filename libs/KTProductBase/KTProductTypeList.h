@@ -1,0 +1,36 @@
+#pragma once
+
+#include "KTProductType.h"
+
+#include <QList>
+#include <QStringList>
+
+/** Product types in the order they were added; one may stand in it twice. */
+class KTPRODUCTBASE_EXPORT KTProductTypeList : public QList<KTProductType>
+{
+public:
+    KTProductTypeList() = default;
+    KTProductTypeList(const QList<KTProductType> &types);
+    /** A product type for each code; empty ones are skipped, doubles kept. */
+    KTProductTypeList(const QStringList &codes);
+
+    /** Reads codes separated by ","; they are not trimmed. */
+    [[nodiscard]] static KTProductTypeList buildFromCSV(const QString &text);
+
+    [[nodiscard]] QStringList toStringList() const;
+    bool containsAgenda() const;
+    bool containsCalendar() const;
+    /** True when at least one element is no calendar. */
+    bool containsNotOnlyCalendars() const;
+
+    /** Appends the type unless the list has it; an unknown one is refused with a warning. */
+    void addWithoutDoubles(const KTProductType &type);
+    /** Adds one type after the other; the other list may be this one. */
+    void addWithoutDoubles(const KTProductTypeList &other);
+};
+
+Q_DECLARE_TYPEINFO(KTProductTypeList, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTProductTypeList)
+
+/** Writes the codes like ("CAL29", "ALB9"). */
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTProductTypeList &types);
