@@ -1,0 +1,25 @@
+#include "KTContentStatistic.h"
+
+namespace {
+constexpr int AMOUNT_WITH_FIRST_FLAG = 1;
+constexpr int AMOUNT_WITH_SECOND_FLAG = 10;
+} // namespace
+
+KTContentStatistic::KTContentStatistic(int countGeoMapAreas, int countVideoAreas,
+                                       const QMap<KTPriceClass, int> &boughtAdditionalContent)
+    : myCountGeoMapAreas(countGeoMapAreas)
+    , myCountVideoAreas(countVideoAreas)
+    , myBoughtAdditionalContent(boughtAdditionalContent)
+{
+}
+
+KTContentStatistic::~KTContentStatistic() = default;
+
+void KTContentStatistic::adaptFromOrToVario(bool first, bool second)
+{
+    if (first == second)
+        return;
+    // Set, not scaled: going back does not restore what was bought before.
+    for (int &amount : myBoughtAdditionalContent)
+        amount = second ? AMOUNT_WITH_SECOND_FLAG : AMOUNT_WITH_FIRST_FLAG;
+}

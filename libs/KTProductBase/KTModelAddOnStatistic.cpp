@@ -1,0 +1,29 @@
+#include "KTModelAddOnStatistic.h"
+
+#include <KTStringLiteral.h>
+
+namespace {
+constexpr KTStringLiteral DEFAULT_VIDEO_ADD_ON = "VDO1";
+}
+
+KTModelAddOnStatistic::KTModelAddOnStatistic(const KTContentStatistic &contentStatistic)
+    : KTModelAddOnStatistic(contentStatistic, KTPriceClass(DEFAULT_VIDEO_ADD_ON), KTPriceClass())
+{
+}
+
+KTModelAddOnStatistic::KTModelAddOnStatistic(const KTContentStatistic &contentStatistic,
+                                             const KTPriceClass &videoAddOn,
+                                             const KTPriceClass &spotColorAddOn)
+    : myContentStatistic(contentStatistic)
+    , myVideoAddOn(videoAddOn)
+    , mySpotColorAddOn(spotColorAddOn)
+{
+}
+
+KTModelAddOnStatistic::~KTModelAddOnStatistic() = default;
+
+void KTModelAddOnStatistic::setFlyLeafAddOn(const KTPriceClass &priceClass, const KTArticleVariants &variants)
+{
+    myFlyLeafAddOn = priceClass;
+    myFlyLeafVariants = variants;
+}
