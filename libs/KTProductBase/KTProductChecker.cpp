@@ -1,0 +1,3 @@
+#include "KTProductChecker.h"
+
+KTProductChecker::~KTProductChecker() = default;

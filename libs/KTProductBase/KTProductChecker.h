@@ -1,0 +1,24 @@
+#pragma once
+
+#include "KTProductCheckerType.h"
+
+class KTArticleVariants;
+class KTProductType;
+
+/**
+ * Says whether a product may be offered or ordered; the application implements it.
+ *
+ * The registry may ask from any thread. A checker may ask the registry in turn.
+ */
+class KTPRODUCTBASE_EXPORT KTProductChecker
+{
+public:
+    virtual ~KTProductChecker();
+
+    /** False to object to the product type. */
+    virtual bool checkProductType(const KTProductType &type) = 0;
+    /** The union of the checker types that it serves. */
+    virtual KTProductCheckerType checkerType() = 0;
+    /** False to object to the product type with these options of its box. */
+    virtual bool checkBoxStyle(const KTProductType &type, const KTArticleVariants &variants) = 0;
+};
