@@ -69,8 +69,7 @@ double KTDistanceUnit::pixels2Units(double pixels) const
 
 void KTDistanceUnit::fillTable(KTEnumToStringTable<KTDistanceUnitEnum> *table) const
 {
-    for (const KTKeywordRow<KTDistanceUnitEnum> &row : KEYWORDS)
-        table->insert(row.keyword, row.value);
+    insertKeywords(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTDistanceUnit &unit)

@@ -34,8 +34,7 @@ KTSpotColor::KTSpotColor(const QString &text)
 
 void KTSpotColor::fillTable(KTEnumToStringTable<KTSpotColorEnum> *table) const
 {
-    for (const KTKeywordRow<KTSpotColorEnum> &row : KEYWORDS)
-        table->insert(row.keyword, row.value);
+    insertKeywords(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTSpotColor &color)
