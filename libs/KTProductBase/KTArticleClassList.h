@@ -1,0 +1,16 @@
+#pragma once
+
+#include "KTArticleClass.h"
+
+#include <QList>
+
+/** Article classes in the order they were added. */
+class KTPRODUCTBASE_EXPORT KTArticleClassList : public QList<KTArticleClass>
+{
+public:
+    /** One element for each part between commas, empty parts skipped; an unknown part gives no class. */
+    [[nodiscard]] static KTArticleClassList parseArticleClasses(const QString &text);
+
+    /** The elements that share a kind with the given class, in their order. */
+    [[nodiscard]] KTArticleClassList filter(const KTArticleClass &articleClass) const;
+};
