@@ -1,5 +1,8 @@
 #include <KTArticleClass.h>
 #include <KTDistanceUnit.h>
+#include <KTOrientation.h>
+#include <KTPageAlignment.h>
+#include <KTProductArrangement.h>
 #include <KTSpotColor.h>
 
 #include "KTClassificationTest.h"
@@ -57,6 +60,9 @@ private Q_SLOTS:
     void distanceUnit() { check<KTDistanceUnit>(5, 5, 0); }
     void spotColor() { check<KTSpotColor>(5, 5, 0); }
     void articleClass() { check<KTArticleClass>(54, 44, 0); }
+    void orientation() { check<KTOrientation>(8, 6, 0); }
+    void pageAlignment() { check<KTPageAlignment>(11, 7, 1); }
+    void productArrangement() { check<KTProductArrangement>(5, 5, 0); }
 };
 
 QTEST_APPLESS_MAIN(tst_KTClassifications)
