@@ -3,6 +3,7 @@
 #include <KTOrientation.h>
 #include <KTPageAlignment.h>
 #include <KTProductArrangement.h>
+#include <KTSpaceMagnitude.h>
 #include <KTSpotColor.h>
 
 #include "KTClassificationTest.h"
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void orientation() { check<KTOrientation>(8, 6, 0); }
     void pageAlignment() { check<KTPageAlignment>(11, 7, 1); }
     void productArrangement() { check<KTProductArrangement>(5, 5, 0); }
+    void spaceMagnitude() { check<KTSpaceMagnitude>(19, 14, 4095); }
 };
 
 QTEST_APPLESS_MAIN(tst_KTClassifications)

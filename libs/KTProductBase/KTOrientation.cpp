@@ -35,10 +35,10 @@ struct FormatRow
     double widthHeightRatio;
 };
 
+// The texts go before a noun: the first half of a compound, or, with its blank, an adjective.
 constexpr FormatRow FORMATS[] = {
     {KTOrientationPortrait,      QT_TRANSLATE_NOOP("KTOrientation", "Hochkant-"),          0.666666},
     {KTOrientationLandscape,     QT_TRANSLATE_NOOP("KTOrientation", "Panorama-"),          1.5     },
- // An adjective of its own, not the first half of a compound: hence the blank.
     {KTOrientationSquare,        QT_TRANSLATE_NOOP("KTOrientation", "quadratische "),      1.0     },
     {KTOrientationPortraitSlim,  QT_TRANSLATE_NOOP("KTOrientation", "schlanke Hochkant-"), 0.5     },
     {KTOrientationLandscapeSlim, QT_TRANSLATE_NOOP("KTOrientation", "schlanke Panorama-"), 2.0     },

@@ -50,7 +50,7 @@ public:
      */
     KTOrientationEnum fromSize(const QSizeF &size) const;
 
-    /** A German adjective to put before a noun, translated; a null string unless it is exactly one format. */
+    /** German words to put before a noun, translated; a null string unless it is exactly one format. */
     QString humanReadable() const;
     /** True for portrait, slim or not; also when other formats are among the value's. */
     bool isPortrait() const;

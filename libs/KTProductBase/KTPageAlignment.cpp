@@ -9,6 +9,7 @@
 
 namespace {
 
+// On purpose a cover reads as left: it has no place of its own.
 constexpr KTKeywordRow<KTPageAlignmentEnum> KEYWORDS[] = {
     {"left",      KTPageAlignmentLeft    },
     {"leftpage",  KTPageAlignmentLeft    },
@@ -19,7 +20,6 @@ constexpr KTKeywordRow<KTPageAlignmentEnum> KEYWORDS[] = {
     {"center",    KTPageAlignmentCenter  },
     {"middle",    KTPageAlignmentMiddle  },
     {"fullpage",  KTPageAlignmentFullpage},
- // A cover is placed by its left half.
     {"cover",     KTPageAlignmentLeft    },
     {"coverpage", KTPageAlignmentLeft    },
 };

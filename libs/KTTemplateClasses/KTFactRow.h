@@ -9,6 +9,14 @@
 
 // Look-ups in tables of facts: arrays of structures whose member "value" says what the row is about.
 
+/** The plainest such row: a translatable text for the value. */
+template <typename ENUM>
+struct KTTextRow
+{
+    ENUM value;
+    const char *text;
+};
+
 /** The row of exactly this value, or the fallback. */
 template <typename ROW, std::size_t N, typename VALUE>
 constexpr const ROW &rowOf(const ROW (&rows)[N], VALUE value, const ROW &fallback)
