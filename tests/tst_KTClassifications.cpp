@@ -1,4 +1,5 @@
 #include <KTArticleClass.h>
+#include <KTCoverType.h>
 #include <KTDistanceUnit.h>
 #include <KTOrientation.h>
 #include <KTPageAlignment.h>
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void pageAlignment() { check<KTPageAlignment>(11, 7, 1); }
     void productArrangement() { check<KTProductArrangement>(5, 5, 0); }
     void spaceMagnitude() { check<KTSpaceMagnitude>(19, 14, 4095); }
+    void coverType() { check<KTCoverType>(39, 32, 0); }
 };
 
 QTEST_APPLESS_MAIN(tst_KTClassifications)
