@@ -3,6 +3,8 @@
 #include <KTDistanceUnit.h>
 #include <KTOrientation.h>
 #include <KTPageAlignment.h>
+#include <KTPageBinding.h>
+#include <KTPageType.h>
 #include <KTProductArrangement.h>
 #include <KTSpaceMagnitude.h>
 #include <KTSpotColor.h>
@@ -67,6 +69,8 @@ private Q_SLOTS:
     void productArrangement() { check<KTProductArrangement>(5, 5, 0); }
     void spaceMagnitude() { check<KTSpaceMagnitude>(19, 14, 4095); }
     void coverType() { check<KTCoverType>(39, 32, 0); }
+    void pageBinding() { check<KTPageBinding>(7, 5, 0); }
+    void pageType() { check<KTPageType>(31, 27, 0); }
 };
 
 QTEST_APPLESS_MAIN(tst_KTClassifications)
