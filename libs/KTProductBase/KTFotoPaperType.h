@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ktproductbase_export.h"
+
+#include <KTEnumWrapper.h>
+
+#include <QMetaType>
+
+class KTArticleClass;
+class QDebug;
+
+/** Surfaces of photo prints. */
+enum KTPRODUCTBASE_EXPORT KTFotoPaperTypeEnum : qint32 {
+    KTFotoPaperTypeUnknown = 0,
+    KTFotoPaperTypeGlossy = 1,
+    KTFotoPaperTypeMatt = 2,
+};
+
+/** The surface of a photo print. It is written as the number of its value. */
+class KTPRODUCTBASE_EXPORT KTFotoPaperType : public KTEnumWrapper<KTFotoPaperTypeEnum>
+{
+public:
+    /** An unknown surface: value 0. */
+    KTFotoPaperType();
+    KTFotoPaperType(KTFotoPaperTypeEnum value);
+    /** Reads a comma-separated list; an empty text or unknown words give an unknown surface. */
+    KTFotoPaperType(const QString &text);
+
+    /** Reads a decimal number: 1 and 2 are one surface, 0 is both, glossy first; anything else is none. */
+    [[nodiscard]] static QList<KTFotoPaperType> createFromXTCI(const QString &text);
+    /** Glossy for exactly one kind of photo prints; unknown for every other class. */
+    [[nodiscard]] static KTFotoPaperType defaultFor(const KTArticleClass &articleClass);
+
+    /** The display name, translated; empty for a union. */
+    QString humanReadableName() const;
+    /** "1" or "2" for exactly that surface, else an empty text. */
+    [[nodiscard]] QString encodeForProduction() const;
+
+    void fillTable(KTEnumToStringTable<KTFotoPaperTypeEnum> *table) const override;
+};
+
+Q_DECLARE_METATYPE(KTFotoPaperType)
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTFotoPaperType &paperType);
