@@ -1,18 +1,24 @@
 #include <KTArticleClass.h>
 #include <KTCoverType.h>
 #include <KTDistanceUnit.h>
+#include <KTDlpType.h>
+#include <KTFotoPaperType.h>
+#include <KTMaterialType.h>
 #include <KTOrientation.h>
 #include <KTPageAlignment.h>
 #include <KTPageBinding.h>
 #include <KTPageType.h>
+#include <KTPaperType.h>
 #include <KTProductArrangement.h>
 #include <KTSpaceMagnitude.h>
 #include <KTSpotColor.h>
 
 #include "KTClassificationTest.h"
 
+#include <QCoreApplication>
 #include <QMap>
 #include <QSet>
+#include <QTranslator>
 #include <QVariant>
 #include <QtTest>
 
@@ -55,12 +61,69 @@ void check(int keywords, int values, qint64 unknown)
     QVERIFY(QVariant::fromValue(all).template value<CLASS>() == all);
 }
 
+/** Translates every text into its context and itself. */
+class KTEchoTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    {
+        return QString::fromUtf8(context) + u'/' + QString::fromUtf8(sourceText);
+    }
+};
+
 } // namespace
 
 class tst_KTClassifications : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    // The first test function, since the tables are built once per process.
+    void translatesOnFirstUse_data()
+    {
+        QTest::addColumn<bool>("installed");
+        QTest::newRow("first use") << true;
+        QTest::newRow("language changed") << false;
+    }
+    void translatesOnFirstUse()
+    {
+        QFETCH(bool, installed);
+        KTEchoTranslator translator;
+        if (installed)
+            QCoreApplication::installTranslator(&translator);
+        const auto text = [](const char *utf8) { return QString::fromUtf8(utf8); };
+        QCOMPARE(KTSpaceMagnitude(KTSpaceMagnitudeXL).humanReadableName(),
+                 text("KTSpaceMagnitude/Undefiniert"));
+        QCOMPARE(KTSpaceMagnitude(KTSpaceMagnitude600cm2).humanReadableName(), text("KTSpaceMagnitude/A4"));
+        QCOMPARE(KTCoverType(KTCoverTypeLeather).toolTip(),
+                 text("KTBinding/KTBinding/Der hochwertige Leder-Einband ist in verschiedenen Farben "
+                      "erhältlich.\nKTBinding/Das Cover kann nur mit veredelten Elementen gestaltet "
+                      "werden."));
+        QCOMPARE(KTCoverType(KTCoverTypeGift).humanReadableName(), text("KTBinding/"));
+        QCOMPARE(KTCoverType().humanReadableName(), text("KTBinding/unbekannter Bindungstyp"));
+        QCOMPARE(KTPageBinding(KTPageBindingStapled).humanReadableName(),
+                 text("KTPageBinding/Rückstichbindung"));
+        QCOMPARE(KTPaperType(KTPaperTypeFotopaperGlossy).humanReadableName(),
+                 text("KTPaperType/Fotopapier Glänzend"));
+        QCOMPARE(KTPaperType().humanReadableName(), text("KTPaperType/unbekannter Papiertyp"));
+        QCOMPARE(KTFotoPaperType(KTFotoPaperTypeGlossy).humanReadableName(),
+                 text("KTFotoPaperType/Glänzend"));
+        QCOMPARE(KTDlpType(KTDlpTypeBackground).visibleName(), text("KTDlpType/Hintergründe"));
+        QCOMPARE(KTOrientation(KTOrientationSquare).humanReadable(), text("KTOrientation/quadratische "));
+        QVERIFY(KTOrientation().humanReadable().isNull());
+        QCOMPARE(KTPageAlignment(KTPageAlignmentMiddle).describe(),
+                 text("KTPageAlignment/auf dem Buchrücken"));
+
+        QCOMPARE(KTArticleClass(KTArticleClassCard).toHumanReadable(),
+                 text(installed ? "QObject/Grußkarten" : "Grußkarten"));
+        QCOMPARE(KTCoverType::createFromHumanReadable(text("Leder")) == KTCoverTypeLeather, installed);
+        QCOMPARE(KTCoverType::createFromHumanReadable(QString()) == KTCoverTypeGift, installed);
+        QCOMPARE(KTSpaceMagnitude::createFromHumanReadable(text("A4")) == KTSpaceMagnitude600cm2, installed);
+        QCOMPARE(KTPaperType::createFromHumanReadable(text("Fotopapier Glänzend"))
+                     == KTPaperTypeFotopaperGlossy,
+                 installed);
+    }
+
     void distanceUnit() { check<KTDistanceUnit>(5, 5, 0); }
     void spotColor() { check<KTSpotColor>(5, 5, 0); }
     void articleClass() { check<KTArticleClass>(54, 44, 0); }
@@ -71,7 +134,11 @@ private Q_SLOTS:
     void coverType() { check<KTCoverType>(39, 32, 0); }
     void pageBinding() { check<KTPageBinding>(7, 5, 0); }
     void pageType() { check<KTPageType>(31, 27, 0); }
+    void paperType() { check<KTPaperType>(17, 9, 1); }
+    void fotoPaperType() { check<KTFotoPaperType>(5, 3, 0); }
+    void materialType() { check<KTMaterialType>(6, 6, 0); }
+    void dlpType() { check<KTDlpType>(9, 9, 0); }
 };
 
-QTEST_APPLESS_MAIN(tst_KTClassifications)
+QTEST_GUILESS_MAIN(tst_KTClassifications)
 #include "tst_KTClassifications.moc"
