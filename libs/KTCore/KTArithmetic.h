@@ -29,4 +29,12 @@ inline int truncated(double value)
     return static_cast<int>(value);
 }
 
+/** The nearest whole number, halves upwards as qRound() has them; otherwise like truncated(). */
+inline int rounded(double value)
+{
+    // qRound() is undefined at both ends already.
+    const bool isInside = value > std::numeric_limits<int>::min() && value < std::numeric_limits<int>::max();
+    return isInside ? qRound(value) : truncated(value);
+}
+
 } // namespace KTArithmetic

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ktcore_export.h"
+
+#include <KTSingleton.h>
+
+#include <QString>
+
+class QFont;
+
+/** Makes the fonts of the layout. Measuring them needs a QGuiApplication. */
+class KTCORE_EXPORT KTFontCreator : public KTSingleton<KTFontCreator>
+{
+public:
+    /** The family of the application's font. */
+    QString defaultFontFamily() const;
+    /**
+     * The family in the size, in points and bounded by 1 and 10,000; the platform chooses another family for
+     * one that it does not have.
+     */
+    [[nodiscard]] QFont createFont(const QString &family, int size) const;
+};

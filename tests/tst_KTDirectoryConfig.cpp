@@ -1,0 +1,79 @@
+#include <KTDirectoryConfig.h>
+
+#include <QtTest>
+
+#include <sys/stat.h>
+
+class tst_KTDirectoryConfig : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char *const folder : {"root/icons", "root-other"})
+            QVERIFY(QDir().mkpath(path(folder)));
+        for (const char *const name : {"root/plain.png", "root/icons/a b.png", "root-other/neighbour.png"}) {
+            QFile file(path(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QVERIFY(QFile::link(path("root/plain.png"), path("root/icons/inside")));
+        QVERIFY(QFile::link(path("root-other"), path("root/neighbour")));
+        QVERIFY(QFile::link(path("root/loop"), path("root/loop")));
+        QVERIFY(QFile::link(QStringLiteral("/dev/null"), path("root/device")));
+        QCOMPARE(mkfifo(QFile::encodeName(path("root/fifo")).constData(), 0600), 0);
+    }
+
+    void findsOnlyFilesBelowTheRoot_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("file");
+        const auto row = [](const char *name, const char *file = "") {
+            QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(file);
+        };
+        row("plain.png", "root/plain.png");
+        row("icons//a b.png", "root/icons/a b.png");
+        row("icons/inside", "root/plain.png");
+        for (const char *const missing : {"plain", "", ".", "icons", "loop", "device", "fifo"})
+            row(missing);
+        for (const char *const outside : {"../root-other/neighbour.png", "neighbour/neighbour.png"})
+            row(outside);
+        row("icons/../plain.png");
+        QTest::newRow("absolute") << path("root/plain.png") << QString();
+        QTest::newRow("NUL") << QStringLiteral("plain.png") + QChar::Null << QString();
+        QTest::newRow("too long") << QString(100000, QLatin1Char('x')) << QString();
+    }
+    void findsOnlyFilesBelowTheRoot()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, file);
+        KTDirectoryConfig config;
+        config.setResourceRoot(path("root"));
+        QCOMPARE(config.resource(name, false), file.isEmpty() ? file : path("") + file);
+        config.setResourceRoot(QString());
+        QCOMPARE(config.resource(name, true), QString());
+    }
+
+    void choosesTheRoot()
+    {
+        const QString name = QStringLiteral("icons/picshelf/dummy-barcode.png");
+        const QString found = KTDirectoryConfig::instance()->resource(name, false);
+        QVERIFY2(found.endsWith(QStringLiteral("share/KTProductBase/") + name), qPrintable(found));
+        qputenv("KTPRODUCTBASE_RESOURCES", QFile::encodeName(path("root")));
+        QCOMPARE(KTDirectoryConfig().resourceRoot(), path("root"));
+        // Files may lie right below the file system's root.
+        KTDirectoryConfig config;
+        config.setResourceRoot(QStringLiteral("/"));
+        QCOMPARE(config.resource(path("root/plain.png").mid(1), false), path("root/plain.png"));
+    }
+
+private:
+    QString path(const char *name) const
+    {
+        return QFileInfo(myFolder.path()).canonicalFilePath() + QLatin1Char('/') + QString::fromUtf8(name);
+    }
+
+    QTemporaryDir myFolder;
+};
+
+QTEST_APPLESS_MAIN(tst_KTDirectoryConfig)
+#include "tst_KTDirectoryConfig.moc"
