@@ -1,0 +1,3 @@
+#include "KTPageOrganizationCalculator.h"
+
+KTPageOrganizationCalculator::~KTPageOrganizationCalculator() = default;

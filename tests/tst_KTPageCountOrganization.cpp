@@ -1,0 +1,131 @@
+#include <KTPageCountOrganization.h>
+
+#include "KTBoundaries.h"
+#include "KTTestSupport.h"
+
+#include <QRandomGenerator>
+#include <QtTest>
+
+using KTTest::toInt;
+using KTTest::Wide;
+using Numbers = QVector<int>;
+
+namespace {
+
+/** All answers for a page count: six numbers, two organisations, five flags. */
+Numbers answers(const KTPageCountOrganization &pages, int p)
+{
+    const KTPageCountOrganization adapted = pages.adaptedTo(p);
+    KTPageCountOrganization changed = pages;
+    const KTPageCountOrganization shifted = changed -= p;
+    if (changed != shifted || adapted.pageIncrement() != pages.pageIncrement())
+        return {};
+    Numbers result {pages.constrain(p), pages.countPackages(p), pages.numberOfPackages()};
+    result << pages.pagesWithNExtraPackages(p) << adapted.minPages() << adapted.maxPages();
+    result << shifted.minPages() << shifted.maxPages() << pages.isValid() << pages.isConsistent();
+    return result << pages.isOnePageProduct() << pages.inRange(p) << pages.isValidPageCount(p);
+}
+
+/** The rules as they are written down, in numbers that never overflow. */
+Numbers expectedAnswers(Wide min, Wide max, Wide step, Wide p)
+{
+    const bool isInside = min <= p && p <= max;
+    const bool isValid = (min != 0 && min == max) || (min < max && step > 0);
+    const auto isStep = [=](Wide count) { return step == 0 || std::fmod(count - min, step) == 0; };
+    const Wide next = step == 0 ? min : min + std::ceil((p - min) / step) * step;
+    const bool shifts = min - p >= 1;
+    const Wide raised = p > max ? std::fmax(min, max) : next;
+    Numbers result {toInt(isInside ? next : std::fmax(min, std::fmin(p, max)))};
+    result << toInt(step == 0 || p <= min ? 0 : (p - min) / step);
+    result << toInt(step == 0 ? 1 : std::trunc((max - min) / step) + 1) << toInt(p * step + min);
+    result << toInt(min >= p ? min : raised) << toInt(max);
+    result << toInt(shifts ? min - p : min) << toInt(shifts ? max - p : max) << isValid;
+    return result << (max >= min && isValid && isStep(max)) << (min < 2) << isInside
+                  << (isInside && isStep(p));
+}
+
+} // namespace
+
+class tst_KTPageCountOrganization : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsElement_data()
+    {
+        QTest::addColumn<QString>("attributes");
+        QTest::addColumn<QString>("expected"); // in general, for a picture box
+        const auto row = [](const char *title, const char *attributes, const char *expected) {
+            QTest::newRow(title) << QString::fromUtf8(attributes) << QString::fromUtf8(expected);
+        };
+        const char *const all = "pages='4' max_pages='9' page_step='2' pieces='3'";
+        const char *const malformed = "pages='x' max_pages='7' page_step='1.5' pieces='2147483648'";
+        row("nothing", "", "min: 1; max: 1; increment: 0|min: 1; max: 30; increment: 1");
+        row("pages", "pages='5'", "min: 5; max: 5; increment: 0|min: 5; max: 34; increment: 1");
+        row("all", all, "min: 12; max: 27; increment: 2|min: 4; max: 9; increment: 2");
+        row("malformed", malformed, "min: 1; max: 7; increment: 0|min: 1; max: 7; increment: 1");
+        row("huge", "pages='2147483640' pieces='2000'",
+            "min: 2147483647; max: 2147483647; increment: 0|min: 2147483640; max: 2147483647; increment: 1");
+    }
+    void readsElement()
+    {
+        QFETCH(QString, attributes);
+        const QDomElement element = KTTest::element(QStringLiteral("<page %1/>").arg(attributes));
+        QTEST(KTPageCountOrganization::createFromProductsXML(element).dump() + QLatin1Char('|')
+                  + KTPageCountOrganization::createFromProductsXMLForPictureBox(element).dump(),
+              "expected");
+    }
+
+    void answers_data()
+    {
+        QTest::addColumn<Numbers>("input"); // minimum, maximum, increment, page count
+        QTest::addColumn<Numbers>("expected");
+        const auto row = [](const char *title, const Numbers &input, const Numbers &expected) {
+            QTest::newRow(title) << input << expected;
+        };
+        row("between steps", {24, 96, 4, 30}, {32, 1, 19, 144, 32, 96, 24, 96, 1, 1, 0, 1, 0});
+        row("below", {24, 96, 4, 10}, {24, 0, 19, 64, 24, 96, 14, 86, 1, 1, 0, 0, 0});
+        row("above", {24, 96, 4, 200}, {96, 44, 19, 824, 96, 96, 24, 96, 1, 1, 0, 0, 0});
+        row("beyond the last step", {24, 98, 4, 97}, {100, 18, 19, 412, 100, 98, 24, 98, 1, 0, 0, 1, 0});
+        row("no increment", {20, 40, 0, 30}, {20, 0, 1, 20, 20, 40, 20, 40, 0, 0, 0, 1, 1});
+        row("one count", {24, 24, 0, 23}, {24, 0, 1, 24, 24, 24, 1, 1, 1, 1, 0, 0, 0});
+        row("zero", {0, 0, 0, 0}, {0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1});
+        row("inverted", {30, 20, 4, 40}, {30, 2, -1, 190, 30, 20, 30, 20, 0, 0, 0, 0, 0});
+    }
+    void answers()
+    {
+        QFETCH(Numbers, input);
+        const KTIntRange range(input.at(0), input.at(1));
+        QTEST(::answers(KTPageCountOrganization(range, input.at(2)), input.at(3)), "expected");
+    }
+
+    void agreesWithTheModel()
+    {
+        const auto check = [](int min, int max, int step, int p) {
+            QCOMPARE(::answers(KTPageCountOrganization(KTIntRange(min, max), step), p),
+                     expectedAnswers(min, max, step, p));
+        };
+        for (const int min : KTTest::INTS)
+            for (const int max : KTTest::INTS)
+                for (const int step : KTTest::INTS)
+                    for (const int p : KTTest::INTS)
+                        check(min, max, step, p);
+        QRandomGenerator random(17);
+        for (int i = 0; i < 5000; ++i)
+            check(random.bounded(-2, 40), random.bounded(-2, 80), random.bounded(-3, 9),
+                  random.bounded(-2, 99));
+    }
+
+    void copiesAndDumps()
+    {
+        const KTPageCountOrganization pages(KTIntRange(24, 96), 4);
+        QCOMPARE(pages.clone(false), pages);
+        QCOMPARE(pages.clone(true), KTPageCountOrganization(KTIntRange(24, 24), 4));
+        QVERIFY(pages != pages.clone(true) && pages != KTPageCountOrganization(pages.range(), 3));
+        QString debug;
+        QDebug(&debug) << KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint() << QString();
+        QCOMPARE(debug.trimmed(), QStringLiteral("min: 25; max: 25; increment: 0 \"\""));
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_KTPageCountOrganization)
+#include "tst_KTPageCountOrganization.moc"
