@@ -1,0 +1,287 @@
+#include <KTBarcodeDefinitionList.h>
+#include <KTDirectoryConfig.h>
+#include <KTDistanceUnit.h>
+
+#include "KTBoundaries.h"
+#include "KTMessageRecorder.h"
+#include "KTTestSupport.h"
+
+#include <QRandomGenerator>
+#include <QRegion>
+#include <QtTest>
+
+using KTTest::toInt;
+using KTTest::Wide;
+
+namespace {
+
+constexpr char dummy[] = "dummy-barcode.png";
+
+KTBarcodeDefinition definition(const QRect &rect, int pageNr = 0, const char *imageName = "i")
+{
+    return KTBarcodeDefinition(rect, pageNr, QString::fromUtf8(imageName));
+}
+
+KTBarcodeDefinitionList list(std::initializer_list<KTBarcodeDefinition> definitions)
+{
+    KTBarcodeDefinitionList result;
+    for (const KTBarcodeDefinition &entry : definitions)
+        result.append(entry);
+    return result;
+}
+
+/** The merge as it is written down. */
+void updateStepByStep(KTBarcodeDefinitionList *list, KTBarcodeDefinitionList pending)
+{
+    while (!pending.isEmpty()) {
+        const KTBarcodeDefinition next = pending.first();
+        const KTBarcodeDefinition known = list->findDefinition(next.rect());
+        if (list->contains(next)) {
+            pending.removeAll(next);
+        } else if (known.isValid()) {
+            list->removeAll(known);
+            list->append(next);
+        } else {
+            list->append(next);
+            pending.removeAll(next);
+        }
+    }
+}
+
+} // namespace
+
+class tst_KTBarcodeDefinition : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void readsElement_data()
+    {
+        QTest::addColumn<QString>("attributes");
+        QTest::addColumn<KTDistanceUnit>("unit");
+        QTest::addColumn<KTBarcodeDefinition>("expected");
+        QTest::addColumn<int>("warnings");
+        const KTDistanceUnit layout(KTDistanceUnitLayout);
+        const KTDistanceUnit mm(KTDistanceUnitMillimeter);
+        const auto row = [](const char *title, const char *attributes, const KTDistanceUnit &unit,
+                            const KTBarcodeDefinition &expected, int warnings = 0) {
+            QTest::newRow(title) << QString::fromUtf8(attributes) << unit << expected << warnings;
+        };
+        row("all", "position_x='10' position_y='50' width='20' height='30' pageNr='3' image='a.png'", layout,
+            definition({10, 20, 20, 30}, 3, "a.png"));
+        row("nothing", "", layout, definition({1, 0, 1, 1}, 0, dummy));
+        row("nothing, in millimetres", "", mm, definition({10, 0, 10, 10}, 0, dummy));
+        row("malformed", "position_x='nan' position_y='x' width='inf' height='' pageNr='1.5'", layout,
+            definition({1, 0, 1, 1}, 0, dummy));
+        row("truncates the difference", "position_x='-1.7' position_y='1.2' width='2.9' height='1.9'", layout,
+            definition({-1, 0, 2, 1}, 0, dummy));
+        row("truncates after conversion", "position_x='1.29' position_y='2' width='0.15' height='0.1'", mm,
+            definition({12, 19, 1, 1}, 0, dummy));
+        row("unknown unit", "position_x='7'", KTDistanceUnit(), definition({7, 0, 1, 1}, 0, dummy), 4);
+        row("no width", "width='0.9'", layout, definition({1, 0, 0, 1}, 0, dummy));
+        row("no image", "image=''", layout, definition({1, 0, 1, 1}, 0, ""));
+    }
+    void readsElement()
+    {
+        QFETCH(QString, attributes);
+        QFETCH(KTDistanceUnit, unit);
+        QFETCH(KTBarcodeDefinition, expected);
+        const QDomElement element = KTTest::element(QStringLiteral("<barcode %1/>").arg(attributes));
+        const KTMessageRecorder recorder;
+        const KTBarcodeDefinition read = KTBarcodeDefinition::createFromProductsXML(element, unit);
+        QTEST(recorder.messages().size(), "warnings");
+        QCOMPARE(read, expected);
+        QCOMPARE(KTBarcodeDefinitionList::createFromXTCI(element, unit),
+                 expected.isValid() ? list({expected}) : KTBarcodeDefinitionList());
+    }
+
+    void readsList()
+    {
+        const QDomElement element = KTTest::element(
+            QStringLiteral("<p><barcode pageNr='1'/><other/><barcode width='0'/><barcode pageNr='2'/>"
+                           "<group><barcode/></group><Barcode/></p>"));
+        const KTDistanceUnit unit(KTDistanceUnitLayout);
+        const KTBarcodeDefinitionList read = KTBarcodeDefinitionList::createFromProductsXML(element, unit);
+        const QRect rect(1, 0, 1, 1);
+        QCOMPARE(read, list({definition(rect, 1, dummy), definition(rect, 2, dummy)}));
+        QCOMPARE(read.barcodesOnPage(2), list({definition(rect, 2, dummy)}));
+        QVERIFY(read.barcodesOnPage(0).isEmpty());
+        for (const QDomElement &other : {element, QDomElement()})
+            QVERIFY(KTBarcodeDefinitionList::createFromXTCI(other, unit).isEmpty());
+    }
+
+    void staysInsideInt()
+    {
+        const auto isDefined = [](Wide first, Wide size) {
+            return size > INT_MIN && first + size > INT_MIN && first + size <= INT_MAX;
+        };
+        QDomElement element = KTTest::element(QStringLiteral("<barcode/>"));
+        for (const double position : KTTest::DOUBLES) {
+            for (const double size : KTTest::DOUBLES) {
+                for (const char *const name : {"position_x", "position_y"})
+                    element.setAttribute(QString::fromUtf8(name), position);
+                for (const char *const name : {"width", "height"})
+                    element.setAttribute(QString::fromUtf8(name), size);
+                const auto read = KTBarcodeDefinition::createFromProductsXML(element, KTDistanceUnitInch);
+                const auto inches
+                    = [](double number) { return std::isfinite(number) ? number * 254 : 254.0; };
+                const int x = toInt(inches(position));
+                const int y = toInt(inches(position) - inches(size));
+                const int length = toInt(inches(size));
+                const QRect rect = read.rect();
+                QCOMPARE(read.isValid(), length >= 1);
+                QCOMPARE(rect.width() > 0 && rect.height() > 0, length >= 1);
+                QVERIFY(!isDefined(x, length) || (rect.left() == x && rect.width() == length));
+                QVERIFY(!isDefined(y, length) || (rect.top() == y && rect.height() == length));
+            }
+        }
+        // Widths and heights beyond int are compared as well.
+        QRect all;
+        all.setCoords(INT_MIN, INT_MIN, INT_MAX, INT_MAX);
+        QVERIFY(definition({INT_MIN, INT_MIN, 1, 1}) < definition(all));
+        QVERIFY(!(definition(all) < definition({INT_MIN, INT_MIN, 1, 1})));
+    }
+
+    void comparesWithoutOrder_data()
+    {
+        QTest::addColumn<KTBarcodeDefinition>("first");
+        QTest::addColumn<KTBarcodeDefinition>("second");
+        QTest::addColumn<bool>("less");
+        QTest::addColumn<bool>("greater");
+        const KTBarcodeDefinition middle = definition({5, 5, 5, 5}, 5, "m");
+        QTest::newRow("equal") << middle << definition({5, 5, 5, 5}, 5, "m") << false << false;
+        QTest::newRow("left") << definition({4, 5, 5, 5}, 5, "m") << middle << true << false;
+        QTest::newRow("top") << definition({5, 4, 5, 5}, 5, "m") << middle << true << false;
+        QTest::newRow("width") << definition({5, 5, 4, 5}, 5, "m") << middle << true << false;
+        QTest::newRow("height") << definition({5, 5, 5, 4}, 5, "m") << middle << true << false;
+        QTest::newRow("page") << definition({5, 5, 5, 5}, 4, "m") << middle << true << false;
+        QTest::newRow("image name") << definition({5, 5, 5, 5}, 5, "l") << middle << true << false;
+        QTest::newRow("both ways") << definition({4, 5, 5, 5}, 5, "n") << middle << true << true;
+    }
+    void comparesWithoutOrder()
+    {
+        QFETCH(KTBarcodeDefinition, first);
+        QFETCH(KTBarcodeDefinition, second);
+        QTEST(first < second, "less");
+        QTEST(second < first, "greater");
+        QTEST(list({first, first}) < list({second, second}), "less");
+        QVERIFY((first == second) == (qHash(first) == qHash(second)));
+        QVERIFY(!(list({first, second}) < list({second, second})));
+        QVERIFY(list({second}) < list({first, first}) && !(list({first, first}) < list({second})));
+        QVERIFY(list({}) < list({first}) && !(list({}) < list({})));
+    }
+
+    void merges_data()
+    {
+        QTest::addColumn<KTBarcodeDefinitionList>("before");
+        QTest::addColumn<KTBarcodeDefinitionList>("update");
+        QTest::addColumn<KTBarcodeDefinitionList>("after");
+        const QRect r(0, 0, 9, 9);
+        const KTBarcodeDefinition a = definition(r, 1);
+        const KTBarcodeDefinition b = definition(r, 2);
+        const KTBarcodeDefinition c = definition(r, 3);
+        const KTBarcodeDefinition other = definition({9, 9, 9, 9}, 1);
+        const KTBarcodeDefinition nameless = definition(r, 4, "");
+        const auto row = [](const char *title, std::initializer_list<KTBarcodeDefinition> before,
+                            std::initializer_list<KTBarcodeDefinition> update,
+                            std::initializer_list<KTBarcodeDefinition> after) {
+            QTest::newRow(title) << list(before) << list(update) << list(after);
+        };
+        row("identical", {a, other}, {a}, {a, other});
+        row("new", {a}, {other, other}, {a, other});
+        row("replaces and moves to the end", {a, other}, {b}, {other, b});
+        row("removes every equal one", {a, other, a}, {b}, {other, b});
+        row("replaces the first of several", {a, b, other}, {c}, {b, other, c});
+        row("one after the other", {a}, {b, c, b}, {c});
+        row("an invalid one stays", {nameless, a}, {b}, {nameless, a, b});
+        row("an invalid one replaces", {a}, {nameless, b}, {nameless, b});
+        row("nothing", {a}, {}, {a});
+    }
+    void merges()
+    {
+        QFETCH(KTBarcodeDefinitionList, before);
+        QFETCH(KTBarcodeDefinitionList, update);
+        before.updateDefinitions(update);
+        QTEST(before, "after");
+        before.updateDefinitions(before);
+        QTEST(before, "after");
+    }
+
+    void agreesWithTheModel()
+    {
+        QRandomGenerator random(42);
+        for (int i = 0; i < 3000; ++i) {
+            KTBarcodeDefinitionList lists[2];
+            for (KTBarcodeDefinitionList &definitions : lists) {
+                for (int n = random.bounded(9); n > 0; --n) {
+                    definitions.append(definition({random.bounded(3), 0, random.bounded(3), 1},
+                                                  random.bounded(3), random.bounded(4) ? "i" : ""));
+                }
+            }
+            KTBarcodeDefinitionList expected = lists[0];
+            updateStepByStep(&expected, lists[1]);
+            lists[0].updateDefinitions(lists[1]);
+            QCOMPARE(lists[0], expected);
+            QRegion region;
+            for (const KTBarcodeDefinition &entry : expected)
+                region += entry.rect();
+            QCOMPARE(expected.occupiedRegion(), region);
+        }
+    }
+
+    void handlesManyBarcodes()
+    {
+        KTBarcodeDefinitionList definitions;
+        KTBarcodeDefinitionList update;
+        for (int i = 0; i < 20000; ++i) {
+            // Half of them at one place, the others apart and in no order.
+            const QRect rect = i % 2 ? QRect(0, 0, 1, 1) : QRect(i, (i * 7919 % 20011) * 3, 2, 2);
+            definitions.append(definition(rect, i));
+            update.append(definition(rect, -i - 1));
+        }
+        QElapsedTimer timer;
+        timer.start();
+        definitions.updateDefinitions(update);
+        QCOMPARE(definitions, update);
+        QCOMPARE(definitions.occupiedRegion().rectCount(), 10000);
+        QVERIFY(timer.elapsed() < 5000);
+    }
+
+    void loadsImages()
+    {
+        QVERIFY(!definition(QRect(), 0, dummy).image().isNull());
+
+        const QTemporaryDir folder;
+        KTDirectoryConfig *const config = KTDirectoryConfig::instance();
+        const QString root = config->resourceRoot();
+        config->setResourceRoot(folder.path());
+        const QDir icons(folder.filePath(QStringLiteral("icons/picshelf")));
+        QVERIFY(icons.mkpath(QStringLiteral(".")));
+        const auto save = [&icons](const QString &name, const QSize &size) {
+            QImage image(size, QImage::Format_Mono);
+            image.fill(1);
+            return image.save(icons.filePath(name), "PNG");
+        };
+        const KTMessageRecorder recorder;
+        const KTBarcodeDefinition late = definition(QRect(0, 0, 1, 1), 0, "late.png");
+        QVERIFY(late.image().isNull());
+        QVERIFY(save(QStringLiteral("late.png"), QSize(3, 4)));
+        QCOMPARE(late.image().size(), QSize(3, 4));
+        // From now on the image is kept, by the copies too.
+        QVERIFY(QFile::remove(icons.filePath(QStringLiteral("late.png"))));
+        QCOMPARE(list({late}).findDefinition(late.rect()).image().size(), QSize(3, 4));
+        QCOMPARE(list({late}).findDefinition(QRect(0, 0, 1, 2)), KTBarcodeDefinition());
+        QCOMPARE(late, definition(late.rect(), 0, "late.png"));
+
+        QVERIFY(save(QStringLiteral("most.png"), QSize(8000, 8000)));
+        QVERIFY(save(QStringLiteral("more.png"), QSize(8000, 8001)));
+        QVERIFY(save(QStringLiteral("../outside.png"), QSize(3, 4)));
+        QCOMPARE(definition(QRect(), 0, "most.png").image().size(), QSize(8000, 8000));
+        for (const char *const name : {"more.png", "../outside.png", ".", ""})
+            QVERIFY(definition(QRect(), 0, name).image().isNull());
+        QVERIFY(recorder.messages().isEmpty());
+        config->setResourceRoot(root);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_KTBarcodeDefinition)
+#include "tst_KTBarcodeDefinition.moc"
