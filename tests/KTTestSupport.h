@@ -4,6 +4,14 @@
 #include <QDomElement>
 #include <QString>
 
+#include <cstddef>
+
+/** A text as a QString, short enough for data rows. */
+inline QString operator""_s(const char16_t *text, std::size_t size)
+{
+    return QString::fromUtf16(text, static_cast<int>(size));
+}
+
 namespace KTTest {
 
 /** The document element of an XML text. It keeps the document alive. */

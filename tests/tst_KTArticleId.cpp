@@ -17,21 +17,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("xml");
         QTest::addColumn<int>("found");
         QTest::addColumn<int>("articleId");
-        QTest::newRow("art_id zero") << QStringLiteral("<a art_id='0' id='17'/>") << 17 << 0;
-        QTest::newRow("art_id wins") << QStringLiteral("<a art_id='5' id='17'/>") << 5 << 0;
-        QTest::newRow("none") << QStringLiteral("<a/>") << 0 << 0;
-        QTest::newRow("art_id negative") << QStringLiteral("<a art_id='-3'/>") << 0 << 0;
-        QTest::newRow("id negative") << QStringLiteral("<a id='-3'/>") << -3 << 0;
-        QTest::newRow("article_id alone") << QStringLiteral("<a article_id='9'/>") << 0 << 9;
-        QTest::newRow("beyond 32 bits") << QStringLiteral("<a art_id='4294967297' id='x'/>") << 0 << 0;
+        QTest::newRow("art_id zero") << u"<a art_id='0' id='17'/>"_s << 17 << 0;
+        QTest::newRow("art_id wins") << u"<a art_id='5' id='17'/>"_s << 5 << 0;
+        QTest::newRow("none") << u"<a/>"_s << 0 << 0;
+        QTest::newRow("art_id negative") << u"<a art_id='-3'/>"_s << 0 << 0;
+        QTest::newRow("id negative") << u"<a id='-3'/>"_s << -3 << 0;
+        QTest::newRow("article_id alone") << u"<a article_id='9'/>"_s << 0 << 9;
+        QTest::newRow("beyond 32 bits") << u"<a art_id='4294967297' id='x'/>"_s << 0 << 0;
     }
     void readsElement()
     {
         QFETCH(QString, xml);
         const QDomElement element = KTTest::element(xml);
         QCOMPARE(KTArticleId::fromIdAttribute(element), KTArticleId::fromIdAttribute(element.attributes()));
-        QCOMPARE(KTArticleId::fromArtIdAttribute(element),
-                 KTArticleId(element.attributes(), QStringLiteral("art_id")));
+        QCOMPARE(KTArticleId::fromArtIdAttribute(element), KTArticleId(element.attributes(), u"art_id"_s));
         QTEST(KTArticleId::findId(element).id(), "found");
         QTEST(KTArticleId::fromArticleIdAttribute(element.attributes()).id(), "articleId");
     }
@@ -54,30 +53,28 @@ private Q_SLOTS:
         QTEST(KTArticleId(object).id(), "id");
         QTEST(KTArticleId(
                   QJsonObject {
-                      {QStringLiteral("k"), object.value(KTArticleId::defaultKey())}
+                      {u"k"_s, object.value(KTArticleId::defaultKey())}
         },
-                  QStringLiteral("k"))
+                  u"k"_s)
                   .id(),
               "id");
     }
 
     void writes()
     {
-        QDomElement parent = KTTest::element(QStringLiteral("<p/>"));
-        QDomElement child = KTArticleId(-8).createSubElement(parent, QStringLiteral("c"));
+        QDomElement parent = KTTest::element(u"<p/>"_s);
+        QDomElement child = KTArticleId(-8).createSubElement(parent, u"c"_s);
         KTArticleId(5).toArtIdAttribute(child);
-        KTArticleId(5).toAttribute(child, QStringLiteral("x"));
-        QCOMPARE(child.attribute(QStringLiteral("art_id")) + child.attribute(QStringLiteral("x")),
-                 QStringLiteral("55"));
-        QCOMPARE(parent.firstChildElement(QStringLiteral("c")).attribute(QStringLiteral("id")),
-                 QStringLiteral("-8"));
+        KTArticleId(5).toAttribute(child, u"x"_s);
+        QCOMPARE(child.attribute(u"art_id"_s) + child.attribute(u"x"_s), u"55"_s);
+        QCOMPARE(parent.firstChildElement(u"c"_s).attribute(u"id"_s), u"-8"_s);
         QJsonObject object {
-            {QStringLiteral("id"), true}
+            {u"id"_s, true}
         };
         KTArticleId(6322).toJSON(object);
         QCOMPARE(object,
                  (QJsonObject {
-                     {QStringLiteral("id"), 6322}
+                     {u"id"_s, 6322}
         }));
 
         QByteArray written;
@@ -86,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(written, QByteArray::fromHex("00000006002d00310032"));
         QString debug;
         QDebug(&debug) << KTArticleId(7);
-        QCOMPARE(debug.trimmed(), QStringLiteral("\"7\""));
+        QCOMPARE(debug.trimmed(), u"\"7\""_s);
     }
 
     void knowsItsSpecialArticles_data()

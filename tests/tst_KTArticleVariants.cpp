@@ -3,35 +3,35 @@
 #include "KTTestSupport.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QtTest>
-
-using Pairs = QMap<QString, QString>;
-Q_DECLARE_METATYPE(Pairs)
 
 namespace {
 
-Pairs pairs(const KTArticleVariants &variants)
-{
-    Pairs map;
-    for (const QString &key : variants.keys())
-        map.insert(key, variants.value(key, QStringLiteral("missing")));
-    return map;
-}
-
-KTArticleVariants variants(const Pairs &pairs)
+/** The options of a text like "alcolor=black/boxstyle=". */
+KTArticleVariants variants(const QString &text)
 {
     KTArticleVariants variants;
-    for (auto pair = pairs.begin(); pair != pairs.end(); ++pair)
-        variants.insert(pair.key(), pair.value());
+    for (const QString &pair : text.split(QLatin1Char('/'), Qt::SkipEmptyParts))
+        variants.insert(pair.section(QLatin1Char('='), 0, 0), pair.section(QLatin1Char('='), 1));
     return variants;
 }
 
-/** The pairs of a text whose order is not stated. */
-QStringList sorted(const QString &text, QChar separator)
+/** The reverse of variants(). */
+QString pairs(const KTArticleVariants &variants)
+{
+    QStringList pairs;
+    for (const QString &key : variants.keys())
+        pairs.append(key + QLatin1Char('=') + variants.value(key, u"missing"_s));
+    return pairs.join(QLatin1Char('/'));
+}
+
+/** The same text with its parts, whose order is not stated, in order. */
+QString sorted(const QString &text, QChar separator)
 {
     QStringList parts = text.split(separator);
     parts.sort();
-    return parts;
+    return parts.join(separator);
 }
 
 } // namespace
@@ -43,25 +43,18 @@ private Q_SLOTS:
     void readsText_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::addColumn<Pairs>("keywordString");
-        QTest::addColumn<Pairs>("mcf");
-        const Pairs none;
-        const Pairs black {
-            {QStringLiteral("alcolor"), QStringLiteral("black")}
-        };
-        QTest::newRow("colon") << QStringLiteral("alcolor:black") << black << black;
-        QTest::newRow("bar") << QStringLiteral("alcolor|black") << black << black;
-        QTest::newRow("plus") << QStringLiteral("alcolor+black") << black << black;
-        QTest::newRow("no separator") << QStringLiteral("alcolor") << none << none;
-        QTest::newRow("two separators") << QStringLiteral("a:b+c") << none << none;
-        QTest::newRow("empty piece") << QStringLiteral("a::b") << none << none;
-        QTest::newRow("empty") << QString() << none << none;
-        const Pairs keyless {
-            {QString(), QStringLiteral("black")}
-        };
-        QTest::newRow("empty key") << QStringLiteral(":black") << keyless << keyless;
-        QTest::newRow("empty parts") << QStringLiteral("alcolor:black,,oops,") << Pairs{{QStringLiteral("alcolor"), QStringLiteral("black,,oops,")}} << black;
-        QTest::newRow("later wins") << QStringLiteral("alcolor:white,alcolor|black") << none << black;
+        QTest::addColumn<QString>("keywordString");
+        QTest::addColumn<QString>("mcf");
+        QTest::newRow("colon") << u"alcolor:black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
+        QTest::newRow("bar") << u"alcolor|black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
+        QTest::newRow("plus") << u"alcolor+black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
+        QTest::newRow("no separator") << u"alcolor"_s << QString() << QString();
+        QTest::newRow("two separators") << u"a:b+c"_s << QString() << QString();
+        QTest::newRow("empty piece") << u"a::b"_s << QString() << QString();
+        QTest::newRow("empty") << QString() << QString() << QString();
+        QTest::newRow("empty key") << u":black"_s << u"=black"_s << u"=black"_s;
+        QTest::newRow("empty parts") << u"a:1,,oops,"_s << u"a=1,,oops,"_s << u"a=1"_s;
+        QTest::newRow("later wins") << u"a:white,a|black"_s << QString() << u"a=black"_s;
     }
     void readsText()
     {
@@ -72,97 +65,43 @@ private Q_SLOTS:
 
     void readsJson()
     {
-        const QJsonArray array {QStringLiteral("form_parameter-alcolor:white"),
-                                QStringLiteral("boxform_parameter-style:wood"),
-                                QStringLiteral("oops"),
-                                QStringLiteral("a:b:c"),
-                                17,
-                                QStringLiteral("a|b"),
-                                QStringLiteral("alcolor:black"),
-                                QStringLiteral("FORM_PARAMETER-x:1")};
-        const Pairs expected {
-            {QStringLiteral("alcolor"),          QStringLiteral("black")},
-            {QStringLiteral("boxstyle"),         QStringLiteral("wood") },
-            {QStringLiteral("FORM_PARAMETER-x"), QStringLiteral("1")    }
-        };
-        QCOMPARE(pairs(KTArticleVariants(array)), expected);
+        const QByteArray json
+            = R"(["form_parameter-alcolor:white", "boxform_parameter-style:wood", "oops", "a:b:c", 17,
+                                    "a|b", "alcolor:black", "FORM_PARAMETER-x:1"])";
+        QCOMPARE(pairs(KTArticleVariants(QJsonDocument::fromJson(json).array())),
+                 u"FORM_PARAMETER-x=1/alcolor=black/boxstyle=wood"_s);
     }
 
     void readsElement()
     {
-        const Pairs full {
-            {QStringLiteral("k"), QStringLiteral("v")}
-        };
-        QCOMPARE(pairs(KTArticleVariants(KTTest::element(QStringLiteral("<f key='k' value='v'/>")))), full);
-        const Pairs empty {
-            {QString(), QString()}
-        };
-        QCOMPARE(pairs(KTArticleVariants(KTTest::element(QStringLiteral("<f/>")))), empty);
+        QCOMPARE(pairs(KTArticleVariants(KTTest::element(u"<f key='k' value='v'/>"_s))), u"k=v"_s);
+        QCOMPARE(pairs(KTArticleVariants(KTTest::element(u"<f/>"_s))), u"="_s);
         QVERIFY(KTArticleVariants(QDomElement()).isValid());
-        QVERIFY(!KTArticleVariants(QStringLiteral("k"), QString()).isValid());
-        QVERIFY(!KTArticleVariants(QString(), QStringLiteral("v")).isValid());
+        QVERIFY(!KTArticleVariants(u"k"_s, QString()).isValid());
+        QVERIFY(!KTArticleVariants(QString(), u"v"_s).isValid());
     }
 
     void writes_data()
     {
-        QTest::addColumn<Pairs>("input");
-        QTest::addColumn<QStringList>("mcf");
-        QTest::addColumn<QStringList>("orderTxt");
-        QTest::addColumn<Pairs>("xtci");
-        const auto list = [](std::initializer_list<const char *> texts) {
-            QStringList result;
-            for (const char *text : texts)
-                result.append(QString::fromUtf8(text));
-            return result;
-        };
-        const auto map = [](std::initializer_list<std::pair<const char *, const char *>> texts) {
-            Pairs result;
-            for (const auto &pair : texts)
-                result.insert(QString::fromUtf8(pair.first), QString::fromUtf8(pair.second));
-            return result;
-        };
-        QTest::newRow("plain") << map({
-            {"alcolor", "black"}
-        })
-                               << list({"alcolor:black"}) << list({"alcolor:black"})
-                               << map({{"alcolor", "black"}});
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("mcf");
+        QTest::addColumn<QString>("orderTxt");
+        QTest::addColumn<QString>("xtci");
+        QTest::newRow("plain") << u"k=black"_s << u"k:black"_s << u"k:black"_s << u"k=black"_s;
         QTest::newRow("compound and plain")
-            << map({
-                   {"giftboxcolor;boxstyle", "black;wood"},
-                   {"a",                     "1"         }
-        })
-            << list({"a:1", "giftboxcolor;boxstyle:black;wood"})
-            << list({"a:1", "boxstyle:wood", "giftboxcolor:black"})
-            << map({{"a", "1"}, {"boxstyle", "wood"}, {"giftboxcolor", "black"}});
-        QTest::newRow("unequal parts") << map({
-            {"a;b", "1"}
-        }) << list({"a;b:1"})
-                                       << list({""}) << map({});
-        QTest::newRow("empty part dropped") << map({
-            {"a;;b", ";1;2"}
-        }) << list({"a;;b:;1;2"})
-                                            << list({"a:1", "b:2"}) << map({{"a", "1"}, {"b", "2"}});
-        QTest::newRow("empty value") << map({
-            {"alcolor", ""}
-        }) << list({""})
-                                     << list({""}) << map({});
-        QTest::newRow("empty key") << map({
-            {"", "black"}
-        }) << list({""})
-                                   << list({""}) << map({});
-        QTest::newRow("only separators") << map({
-            {";", ";;"}
-        }) << list({";:;;"})
-                                         << list({""}) << map({});
-        QTest::newRow("placeholder in key") << map({
-            {"a%2", "b"}
-        }) << list({"ab:b"}) << list({"ab:b"})
-                                            << map({{"a%2", "b"}});
-        QTest::newRow("nothing") << map({}) << list({""}) << list({""}) << map({});
+            << u"c;a=1;2/b=3"_s << u"b:3,c;a:1;2"_s << u"a:2;b:3;c:1"_s << u"a=2/b=3/c=1"_s;
+        QTest::newRow("unequal parts") << u"a;b=1"_s << u"a;b:1"_s << QString() << QString();
+        QTest::newRow("empty part dropped")
+            << u"a;;b=;1;2"_s << u"a;;b:;1;2"_s << u"a:1;b:2"_s << u"a=1/b=2"_s;
+        QTest::newRow("empty value") << u"alcolor="_s << QString() << QString() << QString();
+        QTest::newRow("empty key") << u"=black"_s << QString() << QString() << QString();
+        QTest::newRow("only separators") << u";=;;"_s << u";:;;"_s << QString() << QString();
+        QTest::newRow("placeholder in key") << u"a%2=b"_s << u"ab:b"_s << u"ab:b"_s << u"a%2=b"_s;
+        QTest::newRow("nothing") << QString() << QString() << QString() << QString();
     }
     void writes()
     {
-        QFETCH(Pairs, input);
+        QFETCH(QString, input);
         const KTArticleVariants written = variants(input);
         QTEST(sorted(written.toMCF(), QLatin1Char(',')), "mcf");
         QTEST(sorted(written.toOrderTxt(), QLatin1Char(';')), "orderTxt");
@@ -171,15 +110,11 @@ private Q_SLOTS:
 
     void survivesMCF()
     {
-        const KTArticleVariants written = variants({
-            {QStringLiteral("giftboxcolor;boxstyle"), QStringLiteral("black;wood")},
-            {QStringLiteral("\u00e4 \u4e2d"),         QStringLiteral("=\"%\n")    }
-        });
+        const KTArticleVariants written
+            = variants(u"giftboxcolor;boxstyle=black;wood/\u00e4 \u4e2d==\"%\n"_s);
         QCOMPARE(KTArticleVariants::createFromMCF(written.toMCF()), written);
         // A comma ends the value; what follows it is no pair.
-        QCOMPARE(KTArticleVariants::createFromMCF(
-                     KTArticleVariants(QStringLiteral("k"), QStringLiteral("a,b")).toMCF()),
-                 KTArticleVariants(QStringLiteral("k"), QStringLiteral("a")));
+        QCOMPARE(pairs(KTArticleVariants::createFromMCF(variants(u"k=a,b"_s).toMCF())), u"k=a"_s);
     }
 
     void containsOptions_data()
@@ -189,14 +124,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("contains");
         QTest::addColumn<bool>("containsAtLeastOne");
         QTest::newRow("both empty") << QString() << QString() << true << true;
-        QTest::newRow("second empty") << QStringLiteral("a:1") << QString() << true << true;
-        QTest::newRow("first empty") << QString() << QStringLiteral("a:1") << false << true;
-        QTest::newRow("equal") << QStringLiteral("a:1") << QStringLiteral("a:1") << true << true;
-        QTest::newRow("other value") << QStringLiteral("a:1") << QStringLiteral("a:2") << false << false;
-        QTest::newRow("one of two") << QStringLiteral("a:1") << QStringLiteral("a:1,b:2") << false << true;
-        QTest::newRow("empty value of a missing key")
-            << QStringLiteral("a:1") << QStringLiteral("a:1,b:") << true << true;
-        QTest::newRow("own empty value") << QStringLiteral("b:") << QStringLiteral("a:1") << false << true;
+        QTest::newRow("second empty") << u"a:1"_s << QString() << true << true;
+        QTest::newRow("first empty") << QString() << u"a:1"_s << false << true;
+        QTest::newRow("equal") << u"a:1"_s << u"a:1"_s << true << true;
+        QTest::newRow("other value") << u"a:1"_s << u"a:2"_s << false << false;
+        QTest::newRow("one of two") << u"a:1"_s << u"a:1,b:2"_s << false << true;
+        QTest::newRow("empty value of a missing key") << u"a:1"_s << u"a:1,b:"_s << true << true;
+        QTest::newRow("own empty value") << u"b:"_s << u"a:1"_s << false << true;
     }
     void containsOptions()
     {
@@ -214,12 +148,11 @@ private Q_SLOTS:
 
     void ordersKeysByCodeUnit()
     {
-        const KTArticleVariants variants
-            = KTArticleVariants::createFromMCF(QStringLiteral("b:1,B:2,a:3,\u00e4:4"));
-        QCOMPARE(variants.keys().join(QString()), QStringLiteral("Bab\u00e4"));
+        const KTArticleVariants variants = KTArticleVariants::createFromMCF(u"b:1,B:2,a:3,\u00e4:4"_s);
+        QCOMPARE(variants.keys().join(QString()), u"Bab\u00e4"_s);
         QString debug;
         QDebug(&debug).nospace() << variants << KTArticleVariants();
-        QCOMPARE(debug, QStringLiteral("\"B = 2; a = 3; b = 1; \u00e4 = 4\"\"\""));
+        QCOMPARE(debug, u"\"B = 2; a = 3; b = 1; \u00e4 = 4\"\"\""_s);
     }
 
     void sharesUntilChanged()
@@ -227,13 +160,13 @@ private Q_SLOTS:
         KTArticleVariants variants = KTArticleVariants::blackCFBGiftBox();
         const KTArticleVariants copy = variants;
         QCOMPARE(variants.hash(), copy.hash());
-        variants.insert(KTArticleVariants(KTArticleVariants::coverColorKeyName(), QStringLiteral("red")));
-        variants.insert(KTArticleVariants::cfbGiftBoxColorKeyName(), QStringLiteral("white"));
+        variants.insert(KTArticleVariants(KTArticleVariants::coverColorKeyName(), u"red"_s));
+        variants.insert(KTArticleVariants::cfbGiftBoxColorKeyName(), u"white"_s);
         QVERIFY(variants != copy && variants.hasCoverColor() && !variants.hasFlyLeafColor()
                 && !copy.hasCoverColor());
-        QCOMPARE(copy.toMCF(), QStringLiteral("giftboxcolor:black"));
+        QCOMPARE(copy.toMCF(), u"giftboxcolor:black"_s);
         const QHash<QString, QString> plain {
-            {QStringLiteral("giftboxcolor"), QStringLiteral("black")}
+            {u"giftboxcolor"_s, u"black"_s}
         };
         QCOMPARE(copy.hash(), qHash(plain, 0));
     }

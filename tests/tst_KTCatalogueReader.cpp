@@ -1,5 +1,7 @@
 #include <KTCatalogueReader.h>
 
+#include "KTTestSupport.h"
+
 #include <QBuffer>
 #include <QtTest>
 
@@ -45,44 +47,43 @@ private Q_SLOTS:
             << article("<!-- <e a=' > --><?p <a b='?><![CDATA[ <e a='\">]] ]]>]]<e a='>' b=\"'/\"/>") << 1
             << none;
         QTest::newRow("truncated") << QByteArray("<catalogue>\n<article") << 0
-                                   << QStringLiteral("2:9: Premature end of document.");
-        QTest::newRow("empty") << QByteArray() << 0 << QStringLiteral("1:1: Premature end of document.");
-        QTest::newRow("end tag mismatch") << QByteArray("<catalogue>\n  <article></x>") << 0
-                                          << QStringLiteral("2:16: Opening and ending tag mismatch.");
+                                   << u"2:9: Premature end of document."_s;
+        QTest::newRow("empty") << QByteArray() << 0 << u"1:1: Premature end of document."_s;
+        QTest::newRow("end tag mismatch")
+            << QByteArray("<catalogue>\n  <article></x>") << 0 << u"2:16: Opening and ending tag mismatch."_s;
         QTest::newRow("attribute twice")
-            << article("<e a='1' a='2'/>") << 0 << QStringLiteral("1:44: Attribute 'a' redefined.");
+            << article("<e a='1' a='2'/>") << 0 << u"1:44: Attribute 'a' redefined."_s;
         QTest::newRow("other root") << QByteArray("\n <html/>") << 0
-                                    << QStringLiteral("2:2: the root element is 'html', not 'catalogue'");
+                                    << u"2:2: the root element is 'html', not 'catalogue'"_s;
         QTest::newRow("other encoding")
             << QByteArray("<?xml version='1.0' encoding='ISO-8859-1'?><catalogue/>") << 0
-            << QStringLiteral("1:44: the encoding is 'ISO-8859-1', not UTF-8");
+            << u"1:44: the encoding is 'ISO-8859-1', not UTF-8"_s;
         QTest::newRow("UTF-16") << QByteArray("\xff\xfe<\0c\0", 6) << 0
-                                << QStringLiteral("1:4: a NUL character; the file is not UTF-8 text");
-        QTest::newRow("not UTF-8") << article("<e a='\xe4'/>") << 0 << QStringLiteral("1:");
+                                << u"1:4: a NUL character; the file is not UTF-8 text"_s;
+        QTest::newRow("not UTF-8") << article("<e a='\xe4'/>") << 0 << u"1:"_s;
         QTest::newRow("document type")
             << QByteArray("<!DOCTYPE catalogue [<!ENTITY a 'b'>]><catalogue/>") << 0
-            << QStringLiteral("1:1: limit exceeded: a catalogue has no document type declaration");
-        QTest::newRow("unknown entity") << article("<e a='&a;'/>") << 0 << QStringLiteral("1:");
+            << u"1:1: limit exceeded: a catalogue has no document type declaration"_s;
+        QTest::newRow("unknown entity") << article("<e a='&a;'/>") << 0 << u"1:"_s;
         QTest::newRow("longest value") << article(value(length)) << 1 << none;
         QTest::newRow("longer value") << article("\n" + value(length + 1)) << 0
-                                      << QStringLiteral("2:6: limit exceeded: a value of more than 64 KiB");
+                                      << u"2:6: limit exceeded: a value of more than 64 KiB"_s;
         QTest::newRow("longer text") << article(QByteArray(length + 1, 'x')) << 0
-                                     << QStringLiteral("1:27: limit exceeded: a value of more than 64 KiB");
-        QTest::newRow("longer section")
-            << article("<![CDATA[" + QByteArray(length + 1, 'x')) << 0
-            << QStringLiteral("1:28: limit exceeded: a value of more than 64 KiB");
+                                     << u"1:27: limit exceeded: a value of more than 64 KiB"_s;
+        QTest::newRow("longer section") << article("<![CDATA[" + QByteArray(length + 1, 'x')) << 0
+                                        << u"1:28: limit exceeded: a value of more than 64 KiB"_s;
         QTest::newRow("long comment") << article("<!--" + QByteArray(4 * length, 'x') + "-->") << 1 << none;
         QTest::newRow("most attributes")
             << article(attributes(KTCatalogueScanner::MAXIMUM_ATTRIBUTES)) << 1 << none;
         QTest::newRow("more attributes")
             << article(attributes(KTCatalogueScanner::MAXIMUM_ATTRIBUTES + 1)) << 0
-            << QStringLiteral("1:8137: limit exceeded: more than 1024 attributes in one element");
+            << u"1:8137: limit exceeded: more than 1024 attributes in one element"_s;
         QTest::newRow("many more attributes")
             << article(attributes(200000)) << 0
-            << QStringLiteral("1:8137: limit exceeded: more than 1024 attributes in one element");
+            << u"1:8137: limit exceeded: more than 1024 attributes in one element"_s;
         QTest::newRow("deepest") << article(nested(KTCatalogueReader::MAXIMUM_DEPTH - 2)) << 1 << none;
         QTest::newRow("deeper") << article("\n" + nested(100000)) << 0
-                                << QStringLiteral("2:763: limit exceeded: more than 256 levels of elements");
+                                << u"2:763: limit exceeded: more than 256 levels of elements"_s;
     }
     void readsOrRefuses()
     {
@@ -98,8 +99,7 @@ private Q_SLOTS:
         QVERIFY(!reader.readNext(&article));
         QTEST(articles, "articles");
         const KTFilePosition position = reader.errorPosition();
-        const QString text
-            = QStringLiteral("%1:%2: %3").arg(position.line).arg(position.column).arg(reader.errorText());
+        const QString text = u"%1:%2: %3"_s.arg(position.line).arg(position.column).arg(reader.errorText());
         if (error.isNull())
             QCOMPARE(reader.errorText(), QString());
         else if (error.size() < 8)
@@ -117,20 +117,17 @@ private Q_SLOTS:
         KTCatalogueReader reader(&buffer);
         KTCatalogueArticle article;
         QVERIFY(reader.readNext(&article));
-        QCOMPARE(article.element().attribute(QStringLiteral("n")), QStringLiteral("\u00e4\u20ac"));
-        QCOMPARE(article.element().attribute(QStringLiteral("x:y")), QStringLiteral("<"));
-        const QDomElement form = article.element()
-                                     .firstChildElement(QStringLiteral("forms"))
-                                     .firstChildElement(QStringLiteral("form"));
-        QCOMPARE(form.attribute(QStringLiteral("value")), QStringLiteral("b"));
+        QCOMPARE(article.element().attribute(u"n"_s), u"\u00e4\u20ac"_s);
+        QCOMPARE(article.element().attribute(u"x:y"_s), u"<"_s);
+        const QDomElement form = article.element().firstChildElement(u"forms"_s).firstChildElement(u"form"_s);
+        QCOMPARE(form.attribute(u"value"_s), u"b"_s);
         QStringList positions;
         for (const KTTagPositions &tag : article.tags) {
-            positions.append(QStringLiteral("%1:%2").arg(tag.tag.line).arg(tag.tag.column));
+            positions.append(u"%1:%2"_s.arg(tag.tag.line).arg(tag.tag.column));
             for (const KTFilePosition &attribute : tag.attributes)
-                positions.append(QStringLiteral("@%1:%2").arg(attribute.line).arg(attribute.column));
+                positions.append(u"@%1:%2"_s.arg(attribute.line).arg(attribute.column));
         }
-        QCOMPARE(positions.join(QLatin1Char(' ')),
-                 QStringLiteral("2:2 @2:11 @2:18 @2:25 3:3 3:10 @4:4 @4:12"));
+        QCOMPARE(positions.join(QLatin1Char(' ')), u"2:2 @2:11 @2:18 @2:25 3:3 3:10 @4:4 @4:12"_s);
         QVERIFY(reader.readNext(&article));
         QCOMPARE(article.tags.size(), 1);
         QCOMPARE(article.tags.constFirst().tag.column, 43);

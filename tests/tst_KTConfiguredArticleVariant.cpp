@@ -17,27 +17,22 @@ private Q_SLOTS:
         QTest::addColumn<bool>("notAccountable");
         QTest::addColumn<QString>("color");
         QTest::newRow("nothing") << QString() << QString() << false << false << QString();
-        QTest::newRow("flags") << QStringLiteral("key='k' value='v' preselected='TRUE' not_accountable='1'")
-                               << QStringLiteral("k:v") << true << true << QString();
-        QTest::newRow("bad flags") << QStringLiteral("key='k' value='' preselected='yes'") << QString()
-                                   << false << false << QString();
+        QTest::newRow("flags") << u"key='k' value='v' preselected='TRUE' not_accountable='1'"_s << u"k:v"_s
+                               << true << true << QString();
+        QTest::newRow("bad flags") << u"key='k' value='' preselected='yes'"_s << QString() << false << false
+                                   << QString();
         QTest::newRow("hexadecimal colour")
-            << QStringLiteral("key='k' value='v' color='#FF0000'") << QStringLiteral("k:v") << false << false
-            << QStringLiteral("#ffff0000");
-        QTest::newRow("translucent colour") << QStringLiteral("color='#80FF0000'") << QString() << false
-                                            << false << QStringLiteral("#80ff0000");
-        QTest::newRow("named colour")
-            << QStringLiteral("color='red'") << QString() << false << false << QStringLiteral("#ffff0000");
-        QTest::newRow("unknown colour")
-            << QStringLiteral("color='reddish'") << QString() << false << false << QString();
-        QTest::newRow("empty colour")
-            << QStringLiteral("color=''") << QString() << false << false << QString();
+            << u"key='k' value='v' color='#FF0000'"_s << u"k:v"_s << false << false << u"#ffff0000"_s;
+        QTest::newRow("translucent colour")
+            << u"color='#80FF0000'"_s << QString() << false << false << u"#80ff0000"_s;
+        QTest::newRow("named colour") << u"color='red'"_s << QString() << false << false << u"#ffff0000"_s;
+        QTest::newRow("unknown colour") << u"color='reddish'"_s << QString() << false << false << QString();
+        QTest::newRow("empty colour") << u"color=''"_s << QString() << false << false << QString();
     }
     void readsElement()
     {
         QFETCH(QString, attributes);
-        const KTConfiguredArticleVariant variant(
-            KTTest::element(QStringLiteral("<form %1/>").arg(attributes)));
+        const KTConfiguredArticleVariant variant(KTTest::element(u"<form %1/>"_s.arg(attributes)));
         QTEST(variant.toString(), "text");
         QTEST(variant.isDefault(), "preselected");
         QTEST(variant.isNotAccountable(), "notAccountable");
@@ -50,14 +45,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
-        QTest::newRow("pair") << QStringLiteral("alcolor:black") << QStringLiteral("alcolor")
-                              << QStringLiteral("black");
-        QTest::newRow("compound") << QStringLiteral("a;b:1;2") << QStringLiteral("a;b")
-                                  << QStringLiteral("1;2");
-        QTest::newRow("three parts") << QStringLiteral("alcolor:black:x") << QString() << QString();
-        QTest::newRow("one part") << QStringLiteral("alcolor") << QString() << QString();
-        QTest::newRow("other separator") << QStringLiteral("alcolor|black") << QString() << QString();
-        QTest::newRow("empty key") << QStringLiteral(":black") << QString() << QStringLiteral("black");
+        QTest::newRow("pair") << u"alcolor:black"_s << u"alcolor"_s << u"black"_s;
+        QTest::newRow("compound") << u"a;b:1;2"_s << u"a;b"_s << u"1;2"_s;
+        QTest::newRow("three parts") << u"alcolor:black:x"_s << QString() << QString();
+        QTest::newRow("one part") << u"alcolor"_s << QString() << QString();
+        QTest::newRow("other separator") << u"alcolor|black"_s << QString() << QString();
+        QTest::newRow("empty key") << u":black"_s << QString() << u"black"_s;
     }
     void readsKeywordString()
     {
@@ -73,50 +66,43 @@ private Q_SLOTS:
         QTest::addColumn<QString>("attributes");
         QTest::addColumn<QString>("description");
         QTest::addColumn<QString>("visibleName");
-        QTest::newRow("no colour") << QStringLiteral(
-            "key='k' value='v' key_name=' Cover  colour' value_name='Black'")
-                                   << QStringLiteral("Cover colour: Black") << QStringLiteral("Black");
-        QTest::newRow("no key name") << QStringLiteral("key='k' value='v' value_name='Black' color='red'")
-                                     << QString() << QStringLiteral("Black");
-        QTest::newRow("no value name")
-            << QStringLiteral("key='k' value='v' key_name='Cover'") << QStringLiteral("Cover:") << QString();
-        QTest::newRow("invalid option") << QStringLiteral("key='k' key_name='%2' value_name='Black'")
-                                        << QStringLiteral("%2: Black") << QString();
+        QTest::newRow("no colour") << u"key='k' value='v' key_name=' Cover  colour' value_name='Black'"_s
+                                   << u"Cover colour: Black"_s << u"Black"_s;
+        QTest::newRow("no key name") << u"key='k' value='v' value_name='Black' color='red'"_s << QString()
+                                     << u"Black"_s;
+        QTest::newRow("no value name") << u"key='k' value='v' key_name='Cover'"_s << u"Cover:"_s << QString();
+        QTest::newRow("invalid option")
+            << u"key='k' key_name='%2' value_name='Black'"_s << u"%2: Black"_s << QString();
         QTest::newRow("colour")
-            << QStringLiteral("key='k' value='v' key_name='Cover' value_name='Red' color='#80ff0000'")
-            << QStringLiteral(
-                   "Cover: <span style=\"background-color:#ff0000\">&nbsp;&nbsp;&nbsp;&nbsp;</span> Red")
-            << QStringLiteral("Red");
+            << u"key='k' value='v' key_name='Cover' value_name='Red' color='#80ff0000'"_s
+            << u"Cover: <span style=\"background-color:#ff0000\">&nbsp;&nbsp;&nbsp;&nbsp;</span> Red"_s
+            << u"Red"_s;
     }
     void describes()
     {
         QFETCH(QString, attributes);
-        const KTConfiguredArticleVariant variant(
-            KTTest::element(QStringLiteral("<form %1/>").arg(attributes)));
+        const KTConfiguredArticleVariant variant(KTTest::element(u"<form %1/>"_s.arg(attributes)));
         QTEST(variant.describe(), "description");
         QTEST(variant.visibleName(), "visibleName");
     }
 
     void comparesKeyAndValueButOrdersByKeyName()
     {
-        const KTConfiguredArticleVariant a(
-            KTTest::element(QStringLiteral("<f key='k' value='v' key_name='A'/>")));
-        const KTConfiguredArticleVariant b(
-            KTTest::element(QStringLiteral("<f key='k' value='v' key_name='B'/>")));
-        const KTConfiguredArticleVariant other(
-            KTTest::element(QStringLiteral("<f key='x' value='v' key_name='A'/>")));
+        const KTConfiguredArticleVariant a(KTTest::element(u"<f key='k' value='v' key_name='A'/>"_s));
+        const KTConfiguredArticleVariant b(KTTest::element(u"<f key='k' value='v' key_name='B'/>"_s));
+        const KTConfiguredArticleVariant other(KTTest::element(u"<f key='x' value='v' key_name='A'/>"_s));
         QVERIFY(a == b && a < b && !(b < a) && qHash(a) == qHash(b));
         QVERIFY(a != other && !(a < other) && !(other < a) && !(a < a));
     }
 
     void mergesPreviewAndColor()
     {
-        KTConfiguredArticleVariant variant(QStringLiteral("k"), QStringLiteral("v"));
+        KTConfiguredArticleVariant variant(u"k"_s, u"v"_s);
         const KTConfiguredArticleVariant copy = variant;
-        variant.merge(KTConfiguredArticleVariant(KTTest::element(
-            QStringLiteral("<f key='x' value='y' value_name='z' preview='p.png' color='blue'/>"))));
-        QCOMPARE(variant.toString() + variant.visibleName(), QStringLiteral("k:v"));
-        QCOMPARE(variant.preview(), QStringLiteral("p.png"));
+        variant.merge(KTConfiguredArticleVariant(
+            KTTest::element(u"<f key='x' value='y' value_name='z' preview='p.png' color='blue'/>"_s)));
+        QCOMPARE(variant.toString() + variant.visibleName(), u"k:v"_s);
+        QCOMPARE(variant.preview(), u"p.png"_s);
         QCOMPARE(variant.color(), QColor(Qt::blue));
         QVERIFY(variant.isDefault() && copy.preview().isEmpty() && !copy.color().isValid());
     }
@@ -124,8 +110,7 @@ private Q_SLOTS:
     void knowsSpotColors()
     {
         const auto isSpotColor = [](const char *value, KTSpotColorEnum color) {
-            return KTConfiguredArticleVariant(QStringLiteral("k"), QString::fromUtf8(value))
-                .isSpotColor(color);
+            return KTConfiguredArticleVariant(u"k"_s, QString::fromUtf8(value)).isSpotColor(color);
         };
         QVERIFY(isSpotColor("silver", KTSpotColorSilver) && !isSpotColor("Silver", KTSpotColorSilver));
         QVERIFY(!isSpotColor("gold, silver", static_cast<KTSpotColorEnum>(6))
@@ -135,8 +120,8 @@ private Q_SLOTS:
     void dumps()
     {
         QString debug;
-        QDebug(&debug).nospace() << KTConfiguredArticleVariant(QStringLiteral("k:v"));
-        QCOMPARE(debug, QStringLiteral("\"KTConfiguredArticleVariant: key: k value: v \""));
+        QDebug(&debug).nospace() << KTConfiguredArticleVariant(u"k:v"_s);
+        QCOMPARE(debug, u"\"KTConfiguredArticleVariant: key: k value: v \""_s);
         QCOMPARE(sizeof(KTConfiguredArticleVariant), sizeof(void *));
     }
 };

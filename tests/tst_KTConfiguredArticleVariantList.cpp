@@ -22,15 +22,15 @@ QString texts(const KTConfiguredArticleVariantList &variants)
 /** Two cover colours, the second preselected; a compound option; an option that is not charged. */
 KTConfiguredArticleVariantList sample()
 {
-    return KTTest::element(QStringLiteral(
-        "<article><other/><forms><form key='alcolor' value='red' key_name='Cover' value_name='Red' "
+    return KTTest::element(
+        u"<article><other/><forms><form key='alcolor' value='red' key_name='Cover' value_name='Red' "
         "editor_name='e2'/>"
         "<note key='x' value='y'/><form key='alcolor' value='black' key_name='Cover' value_name='Black' "
         "editor_name='e1' preselected='1'/><form key='nothing' preselected='1'/>"
         "<form key='giftboxcolor;boxstyle' value='black;wood' key_name='%2' value_name='Box' "
         "preselected='1'/>"
         "<form key='alcolor' value='blue' preselected='true' not_accountable='true'/></forms>"
-        "<forms><form key='late' value='1'/></forms></article>"));
+        "<forms><form key='late' value='1'/></forms></article>"_s);
 }
 
 } // namespace
@@ -42,9 +42,9 @@ private Q_SLOTS:
     void readsElement()
     {
         QCOMPARE(texts(sample()),
-                 QStringLiteral("alcolor:red alcolor:black giftboxcolor;boxstyle:black;wood alcolor:blue"));
+                 u"alcolor:red alcolor:black giftboxcolor;boxstyle:black;wood alcolor:blue"_s);
         KTConfiguredArticleVariantList list = sample();
-        list.readVariants(KTTest::element(QStringLiteral("<article><forms/></article>")));
+        list.readVariants(KTTest::element(u"<article><forms/></article>"_s));
         QVERIFY(list.isEmpty());
         QVERIFY(KTConfiguredArticleVariantList(QDomElement()).isEmpty());
         QVERIFY(KTConfiguredArticleVariantList(KTConfiguredArticleVariant()).isEmpty());
@@ -55,16 +55,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("csv");
         QTest::addColumn<QString>("read");
         QTest::addColumn<QString>("orderTxt");
-        QTest::newRow("invalid parts") << QStringLiteral("alcolor:black,,boxstyle,:x,a:")
-                                       << QStringLiteral("alcolor:black") << QStringLiteral("alcolor:black");
-        QTest::newRow("compound") << QStringLiteral("c:1,giftboxcolor;boxstyle:black;wood")
-                                  << QStringLiteral("c:1 giftboxcolor;boxstyle:black;wood")
-                                  << QStringLiteral("c:1;giftboxcolor:black;boxstyle:wood");
-        QTest::newRow("unequal parts")
-            << QStringLiteral("a;b:1,c:2") << QStringLiteral("a;b:1 c:2") << QStringLiteral("c:2");
-        QTest::newRow("only separators") << QStringLiteral(";:;") << QStringLiteral(";:;") << QString();
-        QTest::newRow("placeholder in key")
-            << QStringLiteral("a%2:b") << QStringLiteral("a%2:b") << QStringLiteral("ab:b");
+        QTest::newRow("invalid parts")
+            << u"alcolor:black,,boxstyle,:x,a:"_s << u"alcolor:black"_s << u"alcolor:black"_s;
+        QTest::newRow("compound") << u"c:1,giftboxcolor;boxstyle:black;wood"_s
+                                  << u"c:1 giftboxcolor;boxstyle:black;wood"_s
+                                  << u"c:1;giftboxcolor:black;boxstyle:wood"_s;
+        QTest::newRow("unequal parts") << u"a;b:1,c:2"_s << u"a;b:1 c:2"_s << u"c:2"_s;
+        QTest::newRow("only separators") << u";:;"_s << u";:;"_s << QString();
+        QTest::newRow("placeholder in key") << u"a%2:b"_s << u"a%2:b"_s << u"ab:b"_s;
         QTest::newRow("empty") << QString() << QString() << QString();
     }
     void readsCSVAndExpands()
@@ -86,16 +84,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("visibleNames");
         QTest::addColumn<QString>("editorNames");
         QTest::newRow("nothing") << QString() << true << QString() << QString() << QString();
-        QTest::newRow("offered") << QStringLiteral("alcolor:black") << true << QStringLiteral("alcolor:black")
-                                 << QStringLiteral("Cover: Black") << QStringLiteral("e1");
-        QTest::newRow("two, one compound")
-            << QStringLiteral("alcolor:red,giftboxcolor;boxstyle:black;wood") << true
-            << QStringLiteral("alcolor:red") << QStringLiteral("%2: Box/Cover: Red") << QStringLiteral("/e2");
+        QTest::newRow("offered") << u"alcolor:black"_s << true << u"alcolor:black"_s << u"Cover: Black"_s
+                                 << u"e1"_s;
+        QTest::newRow("two, one compound") << u"alcolor:red,giftboxcolor;boxstyle:black;wood"_s << true
+                                           << u"alcolor:red"_s << u"%2: Box/Cover: Red"_s << u"/e2"_s;
         QTest::newRow("value not offered")
-            << QStringLiteral("alcolor:green") << false << QString() << QString() << QString();
+            << u"alcolor:green"_s << false << QString() << QString() << QString();
         QTest::newRow("key not offered")
-            << QStringLiteral("alcolor:red,x:y") << false << QStringLiteral("alcolor:red")
-            << QStringLiteral("Cover: Red") << QStringLiteral("e2");
+            << u"alcolor:red,x:y"_s << false << u"alcolor:red"_s << u"Cover: Red"_s << u"e2"_s;
     }
     void matchesChoice()
     {
@@ -110,15 +106,15 @@ private Q_SLOTS:
 
     void findsFirst()
     {
-        QCOMPARE(sample().variantByKey(QStringLiteral("alcolor")).value(), QStringLiteral("red"));
-        QCOMPARE(sample().variantByValue(QStringLiteral("blue")).key(), QStringLiteral("alcolor"));
-        QCOMPARE(sample().notAccountableVariant().value(), QStringLiteral("blue"));
+        QCOMPARE(sample().variantByKey(u"alcolor"_s).value(), u"red"_s);
+        QCOMPARE(sample().variantByValue(u"blue"_s).key(), u"alcolor"_s);
+        QCOMPARE(sample().notAccountableVariant().value(), u"blue"_s);
         QVERIFY(!offer("a:1").notAccountableVariant().isValid()
-                && !offer("a:1").variantByKey(QStringLiteral("1")).isValid());
+                && !offer("a:1").variantByKey(u"1"_s).isValid());
         QCOMPARE(sample().defaultVariants().value(KTArticleVariants::coverColorKeyName(), QString()),
-                 QStringLiteral("blue"));
-        QCOMPARE(offer("b:1,a:1,b:2,B:1").keys().join(QLatin1Char(' ')), QStringLiteral("B a b"));
-        QCOMPARE(texts(offer("b:1,a:1,b:2").filter(QStringLiteral("b"))), QStringLiteral("b:1 b:2"));
+                 u"blue"_s);
+        QCOMPARE(offer("b:1,a:1,b:2,B:1").keys().join(QLatin1Char(' ')), u"B a b"_s);
+        QCOMPARE(texts(offer("b:1,a:1,b:2").filter(u"b"_s)), u"b:1 b:2"_s);
     }
 
     void comparesLists_data()
@@ -130,16 +126,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("common");
         QTest::addColumn<QString>("adopted");
         QTest::newRow("both empty") << QString() << QString() << true << true << QString() << QString();
-        QTest::newRow("first empty") << QString() << QStringLiteral("a:1") << false << true << QString()
-                                     << QStringLiteral("a:1");
-        QTest::newRow("second empty")
-            << QStringLiteral("a:1") << QString() << true << true << QString() << QString();
-        QTest::newRow("overlap") << QStringLiteral("b:2,a:1,b:2") << QStringLiteral("c:3,b:2") << false
-                                 << true << QStringLiteral("b:2 b:2") << QStringLiteral("b:2 b:2");
-        QTest::newRow("subset") << QStringLiteral("a:1,b:2") << QStringLiteral("b:2") << true << true
-                                << QStringLiteral("b:2") << QStringLiteral("b:2");
-        QTest::newRow("disjoint") << QStringLiteral("a:1") << QStringLiteral("a:2") << false << false
-                                  << QString() << QString();
+        QTest::newRow("first empty") << QString() << u"a:1"_s << false << true << QString() << u"a:1"_s;
+        QTest::newRow("second empty") << u"a:1"_s << QString() << true << true << QString() << QString();
+        QTest::newRow("overlap") << u"b:2,a:1,b:2"_s << u"c:3,b:2"_s << false << true << u"b:2 b:2"_s
+                                 << u"b:2 b:2"_s;
+        QTest::newRow("subset") << u"a:1,b:2"_s << u"b:2"_s << true << true << u"b:2"_s << u"b:2"_s;
+        QTest::newRow("disjoint") << u"a:1"_s << u"a:2"_s << false << false << QString() << QString();
     }
     void comparesLists()
     {
@@ -162,13 +154,12 @@ private Q_SLOTS:
         const auto styles = [](const char *csv) {
             QStringList texts;
             for (const KTArticleVariants &style : offer(csv).possibleBoxStyles())
-                texts.append(style.value(QStringLiteral("boxstyle"), QString())
-                             + style.value(QStringLiteral("coverphoto"), QString()));
+                texts.append(style.value(u"boxstyle"_s, QString()) + style.value(u"coverphoto"_s, QString()));
             return texts.join(QLatin1Char(' '));
         };
         QCOMPARE(styles("coverphoto:1,boxstyle:A,coverphoto:2,boxstyle:B,coverphoto:3"),
-                 QStringLiteral("A1 A2 A3 B1 B2 B3"));
-        QCOMPARE(styles("boxstyle:A,boxstyle:B"), QStringLiteral("A B"));
+                 u"A1 A2 A3 B1 B2 B3"_s);
+        QCOMPARE(styles("boxstyle:A,boxstyle:B"), u"A B"_s);
         QCOMPARE(styles("coverphoto:1"), QString());
     }
 
@@ -176,11 +167,9 @@ private Q_SLOTS:
     {
         QString debug;
         QDebug(&debug) << offer("a:1,b:2");
-        QCOMPARE(
-            debug.trimmed(),
-            QStringLiteral(
-                "KTConfiguredArticleVariantList: [ 0 :  \"KTConfiguredArticleVariant: key: a value: 1 \" "
-                "1 :  \"KTConfiguredArticleVariant: key: b value: 2 \"  ]"));
+        QCOMPARE(debug.trimmed(),
+                 u"KTConfiguredArticleVariantList: [ 0 :  \"KTConfiguredArticleVariant: key: a value: 1 \" "
+                 "1 :  \"KTConfiguredArticleVariant: key: b value: 2 \"  ]"_s);
     }
 };
 

@@ -1,6 +1,7 @@
 #include <KTEnumWrapper.h>
 
 #include "KTTestNeighbour.h"
+#include "KTTestSupport.h"
 
 #include <QtTest>
 
@@ -37,8 +38,8 @@ public:
     {
         if (++fillCount == 1)
             throw std::runtime_error("not yet");
-        table->insert(QStringLiteral("a"), KTToyA);
-        table->insert(QStringLiteral("b"), KTToyB);
+        table->insert(u"a"_s, KTToyA);
+        table->insert(u"b"_s, KTToyB);
     }
 
     int excluded = 0;
@@ -135,8 +136,8 @@ private Q_SLOTS:
     {
         QCOMPARE(KTTestNeighbour::spotColorTable(),
                  static_cast<const void *>(KTSpotColor(KTSpotColorGold).enumToStringTable()));
-        QCOMPARE(KTSpotColor(QStringLiteral("Silver, gloss")).encodeCSV(), QStringLiteral("gloss, silver"));
-        QCOMPARE(qHash(KTSpotColor(KTSpotColorGold), 7u), qHash(KTSpotColor(QStringLiteral("gold")), 7u));
+        QCOMPARE(KTSpotColor(u"Silver, gloss"_s).encodeCSV(), u"gloss, silver"_s);
+        QCOMPARE(qHash(KTSpotColor(KTSpotColorGold), 7u), qHash(KTSpotColor(u"gold"_s), 7u));
     }
 };
 

@@ -1,6 +1,8 @@
 #include <KTNearestWord.h>
 #include <KTTerminalText.h>
 
+#include "KTTestSupport.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,7 +22,7 @@ struct Outcome
 Outcome run(const QString &arguments, const QByteArray &input = QByteArray())
 {
     QStringList list = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    list.replaceInStrings(QStringLiteral("SAMPLE"), QStringLiteral(KT_SAMPLE_CATALOGUE));
+    list.replaceInStrings(u"SAMPLE"_s, QStringLiteral(KT_SAMPLE_CATALOGUE));
     QProcess process;
     process.start(QStringLiteral(KT_PROGRAM), list);
     process.write(input);
@@ -42,57 +44,47 @@ private Q_SLOTS:
         QTest::addColumn<QString>("choices");
         QTest::addColumn<QString>("orderTxt");
         QTest::addColumn<QString>("mcf");
-        QTest::newRow("preselected") << QString()
-                                     << QStringLiteral("alcolor:black;coverphoto:yes;flyleafcolor:white")
-                                     << QStringLiteral("alcolor:black,coverphoto:yes,flyleafcolor:white");
-        QTest::newRow("last choice wins") << QStringLiteral("--choose alcolor=sand --choose alcolor=red")
-                                          << QStringLiteral("alcolor:red;coverphoto:yes;flyleafcolor:white")
-                                          << QStringLiteral("alcolor:red,coverphoto:yes,flyleafcolor:white");
+        QTest::newRow("preselected") << QString() << u"alcolor:black;coverphoto:yes;flyleafcolor:white"_s
+                                     << u"alcolor:black,coverphoto:yes,flyleafcolor:white"_s;
+        QTest::newRow("last choice wins") << u"--choose alcolor=sand --choose alcolor=red"_s
+                                          << u"alcolor:red;coverphoto:yes;flyleafcolor:white"_s
+                                          << u"alcolor:red,coverphoto:yes,flyleafcolor:white"_s;
         QTest::newRow("compound")
-            << QStringLiteral("--choose giftboxcolor;boxstyle=white;ribbon")
-            << QStringLiteral(
-                   "alcolor:black;coverphoto:yes;flyleafcolor:white;giftboxcolor:white;boxstyle:ribbon")
-            << QStringLiteral(
-                   "alcolor:black,coverphoto:yes,flyleafcolor:white,giftboxcolor;boxstyle:white;ribbon");
+            << u"--choose giftboxcolor;boxstyle=white;ribbon"_s
+            << u"alcolor:black;coverphoto:yes;flyleafcolor:white;giftboxcolor:white;boxstyle:ribbon"_s
+            << u"alcolor:black,coverphoto:yes,flyleafcolor:white,giftboxcolor;boxstyle:white;ribbon"_s;
     }
     void writesOrderText()
     {
         QFETCH(QString, choices);
         QFETCH(QString, orderTxt);
         QFETCH(QString, mcf);
-        const Outcome text = run(QStringLiteral("order SAMPLE --article 7301 ") + choices);
+        const Outcome text = run(u"order SAMPLE --article 7301 "_s + choices);
         QCOMPARE(text.errors, QString());
         QCOMPARE(text.exitCode, 0);
-        QVERIFY(text.output.contains(QStringLiteral("order text  ") + orderTxt + QLatin1Char('\n')));
-        QVERIFY(text.output.contains(QStringLiteral("MCF         ") + mcf + QLatin1Char('\n')));
+        QVERIFY(text.output.contains(u"order text    "_s + orderTxt + QLatin1Char('\n')));
+        QVERIFY(text.output.contains(u"MCF           "_s + mcf + QLatin1Char('\n')));
         const QJsonObject json
-            = QJsonDocument::fromJson(
-                  run(QStringLiteral("order SAMPLE --json --article 7301 ") + choices).output.toUtf8())
+            = QJsonDocument::fromJson(run(u"order SAMPLE --json --article 7301 "_s + choices).output.toUtf8())
                   .object();
-        QCOMPARE(json.value(QStringLiteral("orderText")).toString(), orderTxt);
-        QCOMPARE(json.value(QStringLiteral("mcf")).toString(), mcf);
-        QCOMPARE(json.value(QStringLiteral("production")).toObject().size(),
-                 orderTxt.count(QLatin1Char(':')));
+        QCOMPARE(json.value(u"orderText"_s).toString(), orderTxt);
+        QCOMPARE(json.value(u"mcf"_s).toString(), mcf);
+        QCOMPARE(json.value(u"production"_s).toObject().size(), orderTxt.count(QLatin1Char(':')));
     }
 
     void showsArticles()
     {
-        const Outcome text = run(QStringLiteral("show SAMPLE --article 8840"));
+        const Outcome text = run(u"show SAMPLE --article 8840"_s);
         QCOMPARE(text.exitCode, 0);
-        QVERIFY(text.output.startsWith(QStringLiteral("article 8840  Erinnerungsbox mit 30 Fotos\n")));
-        QCOMPARE(text.output.count(QStringLiteral("box style")), 4);
-        const QJsonArray all
-            = QJsonDocument::fromJson(run(QStringLiteral("show SAMPLE --json")).output.toUtf8()).array();
+        QVERIFY(text.output.startsWith(u"article 8840  Erinnerungsbox mit 30 Fotos\n"_s));
+        QCOMPARE(text.output.count(u"box style"_s), 4);
+        const QJsonArray all = QJsonDocument::fromJson(run(u"show SAMPLE --json"_s).output.toUtf8()).array();
         QVERIFY(all.size() >= 10);
         const QJsonObject first = all.first().toObject();
-        QCOMPARE(first.value(QStringLiteral("id")).toInt(), 7301);
-        QCOMPARE(first.value(QStringLiteral("options")).toArray().size(), 9);
-        QCOMPARE(first.value(QStringLiteral("defaultChoice"))
-                     .toObject()
-                     .value(QStringLiteral("coverphoto"))
-                     .toString(),
-                 QStringLiteral("yes"));
-        QCOMPARE(run(QStringLiteral("show - --json"), "<catalogue/>").output, QStringLiteral("[]\n"));
+        QCOMPARE(first.value(u"id"_s).toInt(), 7301);
+        QCOMPARE(first.value(u"options"_s).toArray().size(), 9);
+        QCOMPARE(first.value(u"defaultChoice"_s).toObject().value(u"coverphoto"_s).toString(), u"yes"_s);
+        QCOMPARE(run(u"show - --json"_s, "<catalogue/>").output, u"[]\n"_s);
     }
 
     void refuses_data()
@@ -104,40 +96,32 @@ private Q_SLOTS:
         const QByteArray one
             = "<catalogue><article id='1'><forms><form key='a\xe2\x80\xae' value='red'/></forms>"
               "</article></catalogue>";
-        QTest::newRow("no command") << QString() << QByteArray() << 64
-                                    << QStringLiteral("a command is missing");
-        QTest::newRow("unknown command")
-            << QStringLiteral("shw") << QByteArray() << 64 << QStringLiteral("did you mean 'show'?");
-        QTest::newRow("no file") << QStringLiteral("show") << QByteArray() << 64
-                                 << QStringLiteral("'show' needs one file");
-        QTest::newRow("unknown option")
-            << QStringLiteral("show - --jsn") << QByteArray() << 64 << QStringLiteral("jsn");
+        QTest::newRow("no command") << QString() << QByteArray() << 64 << u"a command is missing"_s;
+        QTest::newRow("unknown command") << u"shw"_s << QByteArray() << 64 << u"did you mean 'show'?"_s;
+        QTest::newRow("no file") << u"show"_s << QByteArray() << 64 << u"'show' needs one file"_s;
+        QTest::newRow("unknown option") << u"show - --jsn"_s << QByteArray() << 64 << u"jsn"_s;
         QTest::newRow("no article number")
-            << QStringLiteral("order -") << QByteArray() << 64 << QStringLiteral("'order' needs --article");
-        QTest::newRow("number beyond int") << QStringLiteral("show - --article 2147483648") << QByteArray()
-                                           << 64 << QStringLiteral("is no number for --article");
-        QTest::newRow("choice without value") << QStringLiteral("order - --article 1 --choose a")
-                                              << QByteArray() << 64 << QStringLiteral("'a' is not KEY=VALUE");
-        QTest::newRow("missing file") << QStringLiteral("show missing.xml") << QByteArray() << 2
-                                      << QStringLiteral("missing.xml: error: No such file or directory");
-        QTest::newRow("directory") << QStringLiteral("show .") << QByteArray() << 2
-                                   << QStringLiteral(".: error: ");
+            << u"order -"_s << QByteArray() << 64 << u"'order' needs --article"_s;
+        QTest::newRow("number beyond int")
+            << u"show - --article 2147483648"_s << QByteArray() << 64 << u"is no number for --article"_s;
+        QTest::newRow("choice without value")
+            << u"order - --article 1 --choose a"_s << QByteArray() << 64 << u"'a' is not KEY=VALUE"_s;
+        QTest::newRow("missing file") << u"show missing.xml"_s << QByteArray() << 2
+                                      << u"missing.xml: error: No such file or directory"_s;
+        QTest::newRow("directory") << u"show ."_s << QByteArray() << 2 << u".: error: "_s;
         QTest::newRow("broken behind the article")
-            << QStringLiteral("show - --article 1") << QByteArray(one + "<") << 2
-            << QStringLiteral("-:1:94: error: ");
-        QTest::newRow("unknown article") << QStringLiteral("order - --article 2") << one << 1
-                                         << QStringLiteral("-: there is no article 2");
-        QTest::newRow("unknown key") << QStringLiteral("order SAMPLE --article 7301 --choose alcolr=red")
-                                     << QByteArray() << 1
-                                     << QStringLiteral(
-                                            "has no option 'alcolr'; offered: alcolor, coverphoto, "
-                                            "flyleafcolor, giftboxcolor;boxstyle; did you mean 'alcolor'?");
+            << u"show - --article 1"_s << QByteArray(one + "<") << 2 << u"-:1:94: error: "_s;
+        QTest::newRow("unknown article")
+            << u"order - --article 2"_s << one << 1 << u"-: there is no article 2"_s;
+        QTest::newRow("unknown key") << u"order SAMPLE --article 7301 --choose alcolr=red"_s << QByteArray()
+                                     << 1
+                                     << u"has no option 'alcolr'; offered: alcolor, coverphoto, "
+                                        "flyleafcolor, giftboxcolor;boxstyle; did you mean 'alcolor'?"_s;
         QTest::newRow("unknown value")
-            << QStringLiteral("order SAMPLE --article 7301 --choose alcolor=reed") << QByteArray() << 1
-            << QStringLiteral(
-                   "does not offer 'reed' for 'alcolor'; offered: black, red, sand; did you mean 'red'?");
-        QTest::newRow("control characters") << QStringLiteral("order - --article 1 --choose b=c") << one << 1
-                                            << QStringLiteral("offered: a\\u202e");
+            << u"order SAMPLE --article 7301 --choose alcolor=reed"_s << QByteArray() << 1
+            << u"does not offer 'reed' for 'alcolor'; offered: black, red, sand; did you mean 'red'?"_s;
+        QTest::newRow("control characters")
+            << u"order - --article 1 --choose b=c"_s << one << 1 << u"offered: a\\u202e"_s;
     }
     void refuses()
     {
@@ -154,25 +138,24 @@ private Q_SLOTS:
     void helps()
     {
         for (const char *command : {"", "show ", "order "}) {
-            const Outcome outcome = run(QString::fromLatin1(command) + QStringLiteral("--help"));
+            const Outcome outcome = run(QString::fromLatin1(command) + u"--help"_s);
             QCOMPARE(outcome.exitCode, 0);
-            QVERIFY(outcome.output.contains(QStringLiteral("Example:\n  ktcatalogue ")));
+            QVERIFY(outcome.output.contains(u"Example:\n  ktcatalogue "_s));
         }
-        QVERIFY(run(QStringLiteral("--version")).output.contains(QString::fromLatin1(qVersion())));
+        QVERIFY(run(u"--version"_s).output.contains(QString::fromLatin1(qVersion())));
     }
 
     void makesTextVisible_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("visible");
-        QTest::newRow("plain") << QStringLiteral("Weiß \u20ac") << QStringLiteral("Weiß \u20ac");
-        QTest::newRow("escape") << QStringLiteral("\x1b[2J\n") << QStringLiteral("\\u001b[2J\\u000a");
-        QTest::newRow("C1 control") << QStringLiteral("\u009b") << QStringLiteral("\\u009b");
-        QTest::newRow("right-to-left override")
-            << QStringLiteral("a\u202eb\u2066") << QStringLiteral("a\\u202eb\\u2066");
-        QTest::newRow("line separator") << QStringLiteral("\u2028") << QStringLiteral("\\u2028");
+        QTest::newRow("plain") << u"Weiß \u20ac"_s << u"Weiß \u20ac"_s;
+        QTest::newRow("escape") << u"\x1b[2J\n"_s << u"\\u001b[2J\\u000a"_s;
+        QTest::newRow("C1 control") << u"\u009b"_s << u"\\u009b"_s;
+        QTest::newRow("right-to-left override") << u"a\u202eb\u2066"_s << u"a\\u202eb\\u2066"_s;
+        QTest::newRow("line separator") << u"\u2028"_s << u"\\u2028"_s;
         QTest::newRow("pair and lone surrogate")
-            << QString(QStringLiteral("\U0001f600") + QChar(0xd800)) << QStringLiteral("\U0001f600\\ud800");
+            << QString(u"\U0001f600"_s + QChar(0xd800)) << u"\U0001f600\\ud800"_s;
     }
     void makesTextVisible()
     {
@@ -180,7 +163,7 @@ private Q_SLOTS:
         QTEST(KTTerminalText::visible(text), "visible");
         // The escaped document says the same and carries the text.
         const QJsonObject object {
-            {QStringLiteral("text"), text}
+            {u"text"_s, text}
         };
         const QString json = KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()));
         QVERIFY(!json.contains(QChar(0x202e)) && !json.contains(QChar(0x9b)));
@@ -192,19 +175,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("word");
         QTest::addColumn<QString>("nearest");
-        QTest::newRow("dropped letter") << QStringLiteral("alcolr") << QStringLiteral("alcolor");
-        QTest::newRow("other case") << QStringLiteral("BOXSTYLE") << QStringLiteral("boxstyle");
-        QTest::newRow("two edits") << QStringLiteral("boxtyp") << QStringLiteral("boxtype");
-        QTest::newRow("exactly two") << QStringLiteral("xlcolox") << QStringLiteral("alcolor");
-        QTest::newRow("three edits") << QStringLiteral("xlxolox") << QString();
+        QTest::newRow("dropped letter") << u"alcolr"_s << u"alcolor"_s;
+        QTest::newRow("other case") << u"BOXSTYLE"_s << u"boxstyle"_s;
+        QTest::newRow("two edits") << u"boxtyp"_s << u"boxtype"_s;
+        QTest::newRow("exactly two") << u"xlcolox"_s << u"alcolor"_s;
+        QTest::newRow("three edits") << u"xlxolox"_s << QString();
         QTest::newRow("empty") << QString() << QString();
     }
     void findsNearestWord()
     {
         QFETCH(QString, word);
-        QTEST(KTNearestWord::find(
-                  word, {QStringLiteral("alcolor"), QStringLiteral("boxstyle"), QStringLiteral("boxtype")}),
-              "nearest");
+        QTEST(KTNearestWord::find(word, {u"alcolor"_s, u"boxstyle"_s, u"boxtype"_s}), "nearest");
     }
 };
 

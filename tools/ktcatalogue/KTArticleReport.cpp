@@ -1,11 +1,11 @@
 #include "KTArticleReport.h"
 
+#include "KTArticleModel.h"
 #include "KTTerminalText.h"
 #include "KTVariantsText.h"
 
-#include <KTXMLParser.h>
+#include <KTDistanceUnit.h>
 
-#include <QDomElement>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -14,32 +14,139 @@ using KTTerminalText::visible;
 
 namespace {
 
-const QString NAME_ATTRIBUTE = QStringLiteral("name");
 const QString INDENT = QStringLiteral("  ");
+constexpr int LABEL_WIDTH = 16;
+constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
+
+QString line(const QString &label, const QString &text)
+{
+    QString line = INDENT + label.leftJustified(LABEL_WIDTH) + INDENT + text;
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
+}
+
+QString millimeters(double layoutUnits)
+{
+    return QString::number(layoutUnits / LAYOUT_UNITS_PER_MILLIMETER, 'f', 1);
+}
+
+QString millimeters(const QSize &size)
+{
+    return QStringLiteral("%1 x %2 mm").arg(millimeters(size.width()), millimeters(size.height()));
+}
+
+double spineMillimeters(const KTArticleModel &article, int pages)
+{
+    return article.spine.spineWidth(static_cast<unsigned int>(std::max(0, pages)))
+        .value(KTDistanceUnitMillimeter);
+}
+
+/** The page counts asked for, or three that show the range. */
+QList<int> samplePageCounts(const KTArticleModel &article, const QList<int> &pageCounts)
+{
+    if (!pageCounts.isEmpty())
+        return pageCounts;
+    const KTPageCountOrganization &counts = article.pageCounts;
+    const int last = std::max(0, counts.numberOfPackages() - 1);
+    QList<int> samples {counts.minPages()};
+    for (const int packages : {last / 2, last}) {
+        const int pages = counts.pagesWithNExtraPackages(packages);
+        if (!samples.contains(pages))
+            samples.append(pages);
+    }
+    return samples;
+}
+
+QStringList classificationLines(const KTArticleModel &article)
+{
+    QStringList lines;
+    for (const auto &entry : article.classifications) {
+        const KTClassificationReading &reading = entry.second;
+        lines.append(line(entry.first->attribute(),
+                          QStringLiteral("%1  %2").arg(reading.written, reading.displayName)));
+        for (const QString &keyword : reading.unknown) {
+            const QString readAs = reading.readAs.isEmpty() ? QStringLiteral("nothing")
+                                                            : QStringLiteral("'%1'").arg(reading.readAs);
+            lines.append(line(
+                QString(), QStringLiteral("unknown keyword '%1', read as %2").arg(visible(keyword), readAs)));
+        }
+    }
+    return lines;
+}
+
+QStringList productLines(const KTArticleModel &article)
+{
+    QStringList marks;
+    if (article.productType.isCalendar())
+        marks.append(QStringLiteral("calendar"));
+    if (article.productType.isAgenda())
+        marks.append(QStringLiteral("agenda"));
+    QStringList lines {
+        line(QStringLiteral("product type"),
+             visible(article.productType.orderTxtName()) + INDENT + marks.join(QStringLiteral(", ")))};
+    lines.append(line(QStringLiteral("price class"),
+                      article.priceClass.isFree()
+                          ? QStringLiteral("%1  free").arg(visible(article.priceClass.toString())).trimmed()
+                          : visible(article.priceClass.toString())));
+    const KTShippingGroupId group = article.shippingGroup;
+    lines.append(line(QStringLiteral("shipping group"),
+                      !group.isValid()                 ? QStringLiteral("none")
+                          : group.isCombinedTransfer() ? QStringLiteral("0  combined transfer")
+                                                       : group.toString()));
+    return lines;
+}
+
+QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
+{
+    const KTPageCountOrganization &counts = article.pageCounts;
+    QString text = QStringLiteral("%1 to %2, step %3: %4 choices")
+                       .arg(counts.minPages())
+                       .arg(counts.maxPages())
+                       .arg(counts.pageIncrement())
+                       .arg(counts.numberOfPackages());
+    if (!counts.isValid())
+        text += QStringLiteral(" (not valid)");
+    else if (!counts.isConsistent())
+        text += QStringLiteral(" (the last step is not complete)");
+    QStringList lines {line(QStringLiteral("page counts"), text)};
+    for (const int wish : wishes)
+        lines.append(
+            line(QString(), QStringLiteral("%1 pages become %2").arg(wish).arg(counts.constrain(wish))));
+    if (article.hasSpine) {
+        QStringList widths;
+        for (const int pages : samplePageCounts(article, wishes))
+            widths.append(QStringLiteral("%1 mm at %2 pages")
+                              .arg(spineMillimeters(article, pages), 0, 'f', 1)
+                              .arg(pages));
+        lines.append(line(QStringLiteral("spine"), widths.join(QStringLiteral(", "))));
+    }
+    for (const KTArticleModel::Page &page : article.pages) {
+        lines.append(line(QStringLiteral("page size"),
+                          QStringLiteral("%1  %2, with bleed %3")
+
+                              .arg(page.context.pageType().encode(), millimeters(page.size.usableSize()),
+                                   millimeters(page.size.totalSize()))));
+        if (page.size.usableSlipcaseCoverSize().isValid())
+            lines.append(line(
+                QString(),
+                QStringLiteral("slipcase cover %1").arg(millimeters(page.size.usableSlipcaseCoverSize()))));
+    }
+    for (const KTBarcodeDefinition &barcode : article.barcodes) {
+        lines.append(line(QStringLiteral("barcode"),
+                          QStringLiteral("page %1: %2 at %3, %4 mm  %5")
+                              .arg(barcode.pageNr())
+                              .arg(millimeters(barcode.rect().size()), millimeters(barcode.rect().x()),
+                                   millimeters(barcode.rect().y()), visible(barcode.imageName()))));
+    }
+    return lines;
+}
 
 QString colorName(const KTConfiguredArticleVariant &option)
 {
     if (!option.color().isValid())
         return QString();
     return option.color().name(option.color().alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
-}
-
-/** One line an option: value, name, colour and flags in columns. */
-QString optionLine(const KTConfiguredArticleVariant &option, int valueWidth, int nameWidth)
-{
-    QStringList flags;
-    if (option.isDefault())
-        flags.append(QStringLiteral("preselected"));
-    if (option.isNotAccountable())
-        flags.append(QStringLiteral("not charged"));
-    const QString line = QStringLiteral("%1  %2  %3  %4")
-                             .arg(visible(option.value()).leftJustified(valueWidth),
-                                  visible(option.visibleName()).leftJustified(nameWidth),
-                                  colorName(option).leftJustified(7), flags.join(QStringLiteral(", ")));
-    QString indented = INDENT + INDENT + INDENT + line;
-    while (indented.endsWith(QLatin1Char(' ')))
-        indented.chop(1);
-    return indented;
 }
 
 template <typename Getter>
@@ -49,6 +156,36 @@ int widest(const KTConfiguredArticleVariantList &options, Getter getter)
     for (const KTConfiguredArticleVariant &option : options)
         width = std::max(width, visible(getter(option)).size());
     return width;
+}
+
+/** The options by key, one line each: value, name, colour and flags in columns. */
+QStringList optionLines(const KTConfiguredArticleVariantList &options)
+{
+    if (options.isEmpty())
+        return {line(QStringLiteral("options"), QStringLiteral("none"))};
+    const int valueWidth
+        = widest(options, [](const KTConfiguredArticleVariant &option) { return option.value(); });
+    const int nameWidth
+        = widest(options, [](const KTConfiguredArticleVariant &option) { return option.visibleName(); });
+    QStringList lines {line(QStringLiteral("options"), QString())};
+    for (const QString &key : options.keys()) {
+        const KTConfiguredArticleVariantList ofKey = options.filter(key);
+        lines.append(INDENT + line(visible(key), visible(ofKey.constFirst().keyName())));
+        for (const KTConfiguredArticleVariant &option : ofKey) {
+            QStringList flags;
+            if (option.isDefault())
+                flags.append(QStringLiteral("preselected"));
+            if (option.isNotAccountable())
+                flags.append(QStringLiteral("not charged"));
+            const QString columns
+                = QStringLiteral("%1  %2  %3  %4")
+                      .arg(visible(option.value()).leftJustified(valueWidth),
+                           visible(option.visibleName()).leftJustified(nameWidth),
+                           colorName(option).leftJustified(7), flags.join(QStringLiteral(", ")));
+            lines.append(INDENT + INDENT + line(QString(), columns).mid(LABEL_WIDTH + INDENT.size()));
+        }
+    }
+    return lines;
 }
 
 QJsonObject optionJson(const KTConfiguredArticleVariant &option)
@@ -71,57 +208,131 @@ QJsonObject optionJson(const KTConfiguredArticleVariant &option)
     return object;
 }
 
-} // namespace
-
-KTArticleReport::KTArticleReport(const QDomElement &article)
-    : myId(KTArticleId::findId(article))
-    , myName(KTXMLParser::attribute(article, NAME_ATTRIBUTE, QString(), true))
-    , myOptions(article)
+QJsonObject classificationsJson(const KTArticleModel &article)
 {
+    QJsonObject object;
+    for (const auto &entry : article.classifications) {
+        const KTClassificationReading &reading = entry.second;
+        QJsonObject json {
+            {QStringLiteral("keyword"), reading.written    },
+            {QStringLiteral("name"),    reading.displayName}
+        };
+        if (!reading.unknown.isEmpty()) {
+            json.insert(QStringLiteral("unknown"), QJsonArray::fromStringList(reading.unknown));
+            json.insert(QStringLiteral("readAs"), reading.readAs);
+        }
+        object.insert(entry.first->attribute(), json);
+    }
+    return object;
 }
 
-QString KTArticleReport::toText() const
+QJsonObject pageCountsJson(const KTArticleModel &article, const QList<int> &wishes)
 {
-    QStringList lines {QStringLiteral("article %1  %2").arg(myId.toString(), visible(myName)).trimmed()};
-    if (!myId.isValid())
-        lines.append(INDENT + QStringLiteral("has no valid number"));
-
-    const int valueWidth
-        = widest(myOptions, [](const KTConfiguredArticleVariant &option) { return option.value(); });
-    const int nameWidth
-        = widest(myOptions, [](const KTConfiguredArticleVariant &option) { return option.visibleName(); });
-    lines.append(INDENT + (myOptions.isEmpty() ? QStringLiteral("no options") : QStringLiteral("options")));
-    for (const QString &key : myOptions.keys()) {
-        const KTConfiguredArticleVariantList options = myOptions.filter(key);
-        lines.append(
-            INDENT + INDENT
-            + QStringLiteral("%1  %2").arg(visible(key), visible(options.first().keyName())).trimmed());
-        for (const KTConfiguredArticleVariant &option : options)
-            lines.append(optionLine(option, valueWidth, nameWidth));
+    const KTPageCountOrganization &counts = article.pageCounts;
+    QJsonObject object {
+        {QStringLiteral("minimum"),    counts.minPages()        },
+        {QStringLiteral("maximum"),    counts.maxPages()        },
+        {QStringLiteral("step"),       counts.pageIncrement()   },
+        {QStringLiteral("choices"),    counts.numberOfPackages()},
+        {QStringLiteral("valid"),      counts.isValid()         },
+        {QStringLiteral("consistent"), counts.isConsistent()    },
+    };
+    QJsonArray answers;
+    for (const int pages : samplePageCounts(article, wishes)) {
+        QJsonObject answer {
+            {QStringLiteral("pages"),   pages                  },
+            {QStringLiteral("becomes"), counts.constrain(pages)}
+        };
+        if (article.hasSpine)
+            answer.insert(QStringLiteral("spineMillimeters"), spineMillimeters(article, pages));
+        answers.append(answer);
     }
+    object.insert(QStringLiteral("samples"), answers);
+    return object;
+}
 
-    const KTArticleVariants defaults = myOptions.defaultVariants();
+QJsonArray sizeJson(const QSize &size)
+{
+    return {size.width() / LAYOUT_UNITS_PER_MILLIMETER, size.height() / LAYOUT_UNITS_PER_MILLIMETER};
+}
+
+QJsonArray pagesJson(const KTArticleModel &article)
+{
+    QJsonArray pages;
+    for (const KTArticleModel::Page &page : article.pages) {
+        QJsonObject object {
+            {QStringLiteral("type"),              page.context.pageType().encode()    },
+            {QStringLiteral("alignment"),         page.context.alignment().encodeCSV()},
+            {QStringLiteral("usableMillimeters"), sizeJson(page.size.usableSize())    },
+            {QStringLiteral("totalMillimeters"),  sizeJson(page.size.totalSize())     }
+        };
+        if (page.size.usableSlipcaseCoverSize().isValid())
+            object.insert(QStringLiteral("slipcaseMillimeters"),
+                          sizeJson(page.size.usableSlipcaseCoverSize()));
+        pages.append(object);
+    }
+    return pages;
+}
+
+QJsonArray barcodesJson(const KTArticleModel &article)
+{
+    QJsonArray barcodes;
+    for (const KTBarcodeDefinition &barcode : article.barcodes) {
+        const QRect rect = barcode.rect();
+        barcodes.append(QJsonObject {
+            {QStringLiteral("page"),            barcode.pageNr()                      },
+            {QStringLiteral("leftMillimeters"), rect.x() / LAYOUT_UNITS_PER_MILLIMETER},
+            {QStringLiteral("topMillimeters"),  rect.y() / LAYOUT_UNITS_PER_MILLIMETER},
+            {QStringLiteral("sizeMillimeters"), sizeJson(rect.size())                 },
+            {QStringLiteral("image"),           barcode.imageName()                   }
+        });
+    }
+    return barcodes;
+}
+
+} // namespace
+
+QString KTArticleReport::toText(const KTArticleModel &article, const QList<int> &pageCounts)
+{
+    QStringList lines {
+        QStringLiteral("article %1  %2").arg(article.articleId.toString(), visible(article.name)).trimmed()};
+    if (!article.articleId.isValid())
+        lines.append(INDENT + QStringLiteral("has no valid number"));
+    lines += classificationLines(article) + productLines(article) + pageLines(article, pageCounts)
+        + optionLines(article.options);
+
+    const KTArticleVariants defaults = article.options.defaultVariants();
     if (defaults.isValid())
-        lines.append(INDENT + QStringLiteral("default choice  ") + visible(KTVariantsText::mcf(defaults)));
-    for (const KTArticleVariants &style : myOptions.possibleBoxStyles())
-        lines.append(INDENT + QStringLiteral("box style       ") + visible(KTVariantsText::mcf(style)));
+        lines.append(line(QStringLiteral("default choice"), visible(KTVariantsText::mcf(defaults))));
+    for (const KTArticleVariants &style : article.options.possibleBoxStyles())
+        lines.append(line(QStringLiteral("box style"), visible(KTVariantsText::mcf(style))));
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-QJsonObject KTArticleReport::toJSON() const
+QJsonObject KTArticleReport::toJSON(const KTArticleModel &article, const QList<int> &pageCounts)
 {
     QJsonArray options;
-    for (const KTConfiguredArticleVariant &option : myOptions)
+    for (const KTConfiguredArticleVariant &option : article.options)
         options.append(optionJson(option));
     QJsonArray boxStyles;
-    for (const KTArticleVariants &style : myOptions.possibleBoxStyles())
+    for (const KTArticleVariants &style : article.options.possibleBoxStyles())
         boxStyles.append(KTVariantsText::json(style));
 
-    QJsonObject object;
-    myId.toJSON(object);
-    object.insert(QStringLiteral("name"), myName);
-    object.insert(QStringLiteral("options"), options);
-    object.insert(QStringLiteral("defaultChoice"), KTVariantsText::json(myOptions.defaultVariants()));
-    object.insert(QStringLiteral("boxStyles"), boxStyles);
+    QJsonObject object {
+        {QStringLiteral("name"),            article.name                      },
+        {QStringLiteral("classifications"), classificationsJson(article)      },
+        {QStringLiteral("productType"),     article.productType.orderTxtName()},
+        {QStringLiteral("calendar"),        article.productType.isCalendar()  },
+        {QStringLiteral("agenda"),          article.productType.isAgenda()    },
+        {QStringLiteral("priceClass"),      article.priceClass.toString()     },
+        {QStringLiteral("shippingGroup"),   article.shippingGroup.id()        },
+        {QStringLiteral("pageCounts"),      pageCountsJson(article,             pageCounts)},
+        {QStringLiteral("pages"),                                 pagesJson(article)                                            },
+        {QStringLiteral("barcodes"),                                 barcodesJson(article)},
+        {QStringLiteral("options"),                                 options                                             },
+        {QStringLiteral("defaultChoice"),                                 KTVariantsText::json(article.options.defaultVariants())},
+        {QStringLiteral("boxStyles"),                                 boxStyles                                                 },
+    };
+    article.articleId.toJSON(object);
     return object;
 }

@@ -1,27 +1,18 @@
 #pragma once
 
-#include <KTArticleId.h>
-#include <KTConfiguredArticleVariantList.h>
-
 #include <QJsonObject>
+#include <QList>
 
-class QDomElement;
+struct KTArticleModel;
 
-/** What the library makes of one article of a catalogue, for people and for programs. */
-class KTArticleReport
-{
-public:
-    explicit KTArticleReport(const QDomElement &article);
+/** An article as text for people and as JSON for programs. */
+namespace KTArticleReport {
 
-    KTArticleId articleId() const { return myId; }
-    const KTConfiguredArticleVariantList &options() const { return myOptions; }
+/**
+ * Several lines, ready for a terminal. The spine's width is given for each of the page counts; without any,
+ * for the least, a middle and the highest one.
+ */
+QString toText(const KTArticleModel &article, const QList<int> &pageCounts);
+QJsonObject toJSON(const KTArticleModel &article, const QList<int> &pageCounts);
 
-    /** Several lines, ready for a terminal. */
-    QString toText() const;
-    QJsonObject toJSON() const;
-
-private:
-    KTArticleId myId;
-    QString myName;
-    KTConfiguredArticleVariantList myOptions;
-};
+} // namespace KTArticleReport

@@ -45,16 +45,27 @@ QString KTCommandLine::fileName() const
 
 std::optional<int> KTCommandLine::number(const QCommandLineOption &option) const
 {
-    const QString name = option.names().constFirst();
-    bool ok = false;
-    const int number = myParser.value(option).toInt(&ok);
-    if (ok)
-        return number;
-    if (myParser.isSet(option))
-        failUsage(QStringLiteral("'%1' is no number for --%2").arg(myParser.value(option), name));
-    else
-        failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, name));
+    const std::optional<QList<int>> values = numbers(option);
+    if (!values)
+        return std::nullopt;
+    if (!values->isEmpty())
+        return values->constLast();
+    failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, option.names().constFirst()));
     return std::nullopt;
+}
+
+std::optional<QList<int>> KTCommandLine::numbers(const QCommandLineOption &option) const
+{
+    QList<int> numbers;
+    for (const QString &text : myParser.values(option)) {
+        bool ok = false;
+        numbers.append(text.toInt(&ok));
+        if (!ok) {
+            failUsage(QStringLiteral("'%1' is no number for --%2").arg(text, option.names().constFirst()));
+            return std::nullopt;
+        }
+    }
+    return numbers;
 }
 
 KTExitCode KTCommandLine::fail(KTExitCode code, const QString &message)

@@ -26,8 +26,10 @@ public:
     std::optional<KTExitCode> parse(const QStringList &arguments);
     /** The file given; "-" for standard input. */
     QString fileName() const;
-    /** The option's value as a number; without one, wrong usage is reported. */
+    /** The option's value as a number; when there is none, wrong usage is reported. */
     std::optional<int> number(const QCommandLineOption &option) const;
+    /** Each of the option's values as a number; one that is none is reported as wrong usage. */
+    std::optional<QList<int>> numbers(const QCommandLineOption &option) const;
 
     /** Prints one line about what went wrong to standard error and returns the code. */
     static KTExitCode fail(KTExitCode code, const QString &message);

@@ -1,6 +1,6 @@
 #include "KTOrderCommand.h"
 
-#include "KTArticleReport.h"
+#include "KTArticleModel.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
 #include "KTNearestWord.h"
@@ -39,26 +39,68 @@ QString objection(const KTConfiguredArticleVariantList &options, const QString &
     return text;
 }
 
-QString text(const KTArticleId &articleId, const KTArticleVariants &choice)
+/** What is wrong with a page count; empty for a valid one. */
+QString objection(const KTArticleModel &article, int pages)
+{
+    if (article.pageCounts.isValidPageCount(pages))
+        return QString();
+    const QPair<int, int> nearest = article.validPagesAround(pages);
+    const QString valid = nearest.first == nearest.second
+        ? QString::number(nearest.first)
+        : QStringLiteral("%1 and %2").arg(nearest.first).arg(nearest.second);
+    return QStringLiteral("cannot have %1 pages; the nearest valid page counts: %2").arg(pages).arg(valid);
+}
+
+/** What is written for an order. */
+struct Order
+{
+    const KTArticleModel &article;
+    std::optional<int> pages;
+    KTArticleVariants choice;
+};
+
+QString text(const Order &order)
 {
     const auto line = [](const char *label, const QString &value) {
         return QStringLiteral("%1  %2\n")
-            .arg(QString::fromLatin1(label).leftJustified(10), KTTerminalText::visible(value));
+            .arg(QString::fromLatin1(label).leftJustified(12), KTTerminalText::visible(value));
     };
-    return line("article", articleId.toString()) + line("order text", KTVariantsText::orderTxt(choice))
-        + line("MCF", KTVariantsText::mcf(choice))
-        + line("production", KTVariantsText::mcf(KTVariantsText::xtci(choice)));
+    return line("article", order.article.articleId.toString())
+        + line("product type", order.article.productType.orderTxtName())
+        + (order.pages ? line("pages", QString::number(*order.pages)) : QString())
+        + line("order text", KTVariantsText::orderTxt(order.choice))
+        + line("MCF", KTVariantsText::mcf(order.choice))
+        + line("production", KTVariantsText::mcf(KTVariantsText::xtci(order.choice)));
 }
 
-QString json(const KTArticleId &articleId, const KTArticleVariants &choice)
+QString json(const Order &order)
 {
-    QJsonObject object;
-    articleId.toJSON(object);
-    object.insert(QStringLiteral("choice"), KTVariantsText::json(choice));
-    object.insert(QStringLiteral("orderText"), KTVariantsText::orderTxt(choice));
-    object.insert(QStringLiteral("mcf"), KTVariantsText::mcf(choice));
-    object.insert(QStringLiteral("production"), KTVariantsText::json(KTVariantsText::xtci(choice)));
+    QJsonObject object {
+        {QStringLiteral("productType"), order.article.productType.orderTxtName()                },
+        {QStringLiteral("choice"),      KTVariantsText::json(order.choice)                      },
+        {QStringLiteral("orderText"),   KTVariantsText::orderTxt(order.choice)                  },
+        {QStringLiteral("mcf"),         KTVariantsText::mcf(order.choice)                       },
+        {QStringLiteral("production"),  KTVariantsText::json(KTVariantsText::xtci(order.choice))},
+    };
+    if (order.pages)
+        object.insert(QStringLiteral("pages"), *order.pages);
+    order.article.articleId.toJSON(object);
     return KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()));
+}
+
+/** The choices as pairs; one without a key is reported as wrong usage. */
+std::optional<KTArticleVariants> choices(const QStringList &texts)
+{
+    KTArticleVariants choices;
+    for (const QString &text : texts) {
+        const int separator = text.indexOf(QLatin1Char('='));
+        if (separator <= 0) {
+            KTCommandLine::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(text));
+            return std::nullopt;
+        }
+        choices.insert(text.left(separator), text.mid(separator + 1));
+    }
+    return choices;
 }
 
 } // namespace
@@ -70,52 +112,60 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
         QStringLiteral(
             "Starts from the preselected options of an article, applies the choices, and writes the order "
             "text, the MCF and the production form."),
-        QStringLiteral("examples/catalogue.xml --article 7301 --choose alcolor=red"));
+        QStringLiteral("examples/catalogue.xml --article 7301 --pages 30 --choose alcolor=red"));
     const QCommandLineOption articleOption(
         QStringLiteral("article"), QStringLiteral("The number of the article."), QStringLiteral("ID"));
+    const QCommandLineOption pagesOption(QStringLiteral("pages"), QStringLiteral("The page count."),
+                                         QStringLiteral("N"));
     const QCommandLineOption chooseOption(
         QStringLiteral("choose"),
         QStringLiteral("Chooses an option that the article offers; may be given several times."),
         QStringLiteral("KEY=VALUE"));
     const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Prints a JSON object."));
-    commandLine.parser().addOptions({articleOption, chooseOption, jsonOption});
+    commandLine.parser().addOptions({articleOption, pagesOption, chooseOption, jsonOption});
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
     const std::optional<int> wanted = commandLine.number(articleOption);
     if (!wanted)
         return KTExitUsage;
-    KTArticleVariants choices;
-    for (const QString &choice : commandLine.parser().values(chooseOption)) {
-        const int separator = choice.indexOf(QLatin1Char('='));
-        if (separator <= 0)
-            return KTCommandLine::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(choice));
-        choices.insert(choice.left(separator), choice.mid(separator + 1));
-    }
+    const std::optional<QList<int>> pages = commandLine.numbers(pagesOption);
+    if (!pages)
+        return KTExitUsage;
+    const std::optional<KTArticleVariants> chosen = choices(commandLine.parser().values(chooseOption));
+    if (!chosen)
+        return KTExitUsage;
 
-    std::optional<KTConfiguredArticleVariantList> options;
+    std::optional<KTArticleModel> article;
     const auto failure
-        = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &article) {
-              const KTArticleReport report(article.element());
-              if (!options && report.articleId() == *wanted)
-                  options = report.options();
+        = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &candidate) {
+              if (!article && KTArticleId::findId(candidate.element()) == *wanted)
+                  article.emplace(candidate.element());
           });
     if (failure)
         return *failure;
-    if (!options)
+    if (!article)
         return commandLine.failNoArticle(*wanted);
 
-    for (const QString &key : choices.keys()) {
-        const QString wrong = objection(*options, key, choices.value(key, QString()));
-        if (!wrong.isEmpty()) {
-            return KTCommandLine::fail(
-                KTExitUnanswerable,
-                QStringLiteral("%1: article %2 %3").arg(commandLine.fileName()).arg(*wanted).arg(wrong));
-        }
+    QStringList objections;
+    for (const QString &key : chosen->keys())
+        objections.append(objection(article->options, key, chosen->value(key, QString())));
+    if (!pages->isEmpty())
+        objections.append(objection(*article, pages->constLast()));
+    objections.removeAll(QString());
+    if (!objections.isEmpty()) {
+        return KTCommandLine::fail(KTExitUnanswerable,
+                                   QStringLiteral("%1: article %2 %3")
+                                       .arg(commandLine.fileName())
+                                       .arg(*wanted)
+                                       .arg(objections.constFirst()));
     }
-    KTArticleVariants choice = options->defaultVariants();
-    choice.insert(choices);
+
+    Order order {*article, std::nullopt, article->options.defaultVariants()};
+    if (!pages->isEmpty())
+        order.pages = pages->constLast();
+    order.choice.insert(*chosen);
     KTSpool spool;
-    spool.write(commandLine.parser().isSet(jsonOption) ? json(*wanted, choice) : text(*wanted, choice));
+    spool.write(commandLine.parser().isSet(jsonOption) ? json(order) : text(order));
     return KTCommandLine::deliver(&spool);
 }

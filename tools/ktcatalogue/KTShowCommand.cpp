@@ -1,5 +1,6 @@
 #include "KTShowCommand.h"
 
+#include "KTArticleModel.h"
 #include "KTArticleReport.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
@@ -22,44 +23,51 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("show"),
-        QStringLiteral("Shows what the library makes of each article: its number, the options "
-                       "offered, the default choice and the possible box styles."),
-        QStringLiteral("examples/catalogue.xml --article 7301"));
+        QStringLiteral("Shows what the library makes of each article: its number, classifications, "
+                       "page counts, layout and options, the default choice and the box styles."),
+        QStringLiteral("examples/catalogue.xml --article 7301 --pages 30"));
     const QCommandLineOption articleOption(QStringLiteral("article"),
                                            QStringLiteral("Only the article with this number."),
                                            QStringLiteral("ID"));
+    const QCommandLineOption pagesOption(
+        QStringLiteral("pages"),
+        QStringLiteral(
+            "What becomes of a wish for N pages, and how wide the spine is; may be given several times."),
+        QStringLiteral("N"));
     const QCommandLineOption jsonOption(QStringLiteral("json"),
                                         QStringLiteral("Prints a JSON array of articles."));
-    commandLine.parser().addOptions({articleOption, jsonOption});
+    commandLine.parser().addOptions({articleOption, pagesOption, jsonOption});
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
-    const bool isJson = commandLine.parser().isSet(jsonOption);
-    std::optional<int> wanted;
-    if (commandLine.parser().isSet(articleOption)) {
-        wanted = commandLine.number(articleOption);
-        if (!wanted)
-            return KTExitUsage;
-    }
+    const std::optional<QList<int>> wanted = commandLine.numbers(articleOption);
+    if (!wanted)
+        return KTExitUsage;
+    const std::optional<QList<int>> pageCounts = commandLine.numbers(pagesOption);
+    if (!pageCounts)
+        return KTExitUsage;
 
+    const bool isJson = commandLine.parser().isSet(jsonOption);
+    const bool isOneArticle = !wanted->isEmpty();
     KTSpool spool;
     bool isFirst = true;
     const auto failure
         = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &article) {
-              const KTArticleReport report(article.element());
-              if (wanted && (!isFirst || report.articleId() != *wanted))
+              if (isOneArticle && (!isFirst || KTArticleId::findId(article.element()) != wanted->constLast()))
                   return;
+              const KTArticleModel model(article.element());
               if (isJson)
                   spool.write((isFirst ? QStringLiteral("[\n") : QStringLiteral(",\n"))
-                              + jsonText(report.toJSON()));
+                              + jsonText(KTArticleReport::toJSON(model, *pageCounts)));
               else
-                  spool.write((isFirst ? QString() : QStringLiteral("\n")) + report.toText());
+                  spool.write((isFirst ? QString() : QStringLiteral("\n"))
+                              + KTArticleReport::toText(model, *pageCounts));
               isFirst = false;
           });
     if (failure)
         return *failure;
-    if (wanted && isFirst)
-        return commandLine.failNoArticle(*wanted);
+    if (isOneArticle && isFirst)
+        return commandLine.failNoArticle(wanted->constLast());
     if (isJson)
         spool.write(isFirst ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
     return KTCommandLine::deliver(&spool);

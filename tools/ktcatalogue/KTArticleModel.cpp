@@ -1,0 +1,97 @@
+#include "KTArticleModel.h"
+
+#include <KTArithmetic.h>
+#include <KTArticleClass.h>
+#include <KTDistanceUnit.h>
+#include <KTXMLParser.h>
+
+#include <QDomElement>
+
+#include <algorithm>
+
+namespace {
+
+const QString ARTICLE_CLASS_ATTRIBUTE = QStringLiteral("article_class");
+const QString UNITS_ATTRIBUTE = QStringLiteral("units");
+const QString DEFAULT_UNIT = QStringLiteral("mm");
+
+QString text(const QDomElement &element, const QString &name)
+{
+    return KTXMLParser::attribute(element, name, QString(), true);
+}
+
+/** The unit of an element's lengths; millimetres where none is given. */
+KTDistanceUnit unitOf(const QDomElement &element)
+{
+    const QString unit = text(element, UNITS_ATTRIBUTE);
+    return KTDistanceUnit(unit.isEmpty() ? DEFAULT_UNIT : unit);
+}
+
+/** A length in whole layout units. */
+int length(const QDomElement &element, const QString &name, double defaultValue, const KTDistanceUnit &unit)
+{
+    return KTArithmetic::truncated(
+        KTXMLParser::readDistance(element, name, defaultValue, unit).layoutUnits());
+}
+
+KTArticleModel::Page readPage(const QDomElement &element)
+{
+    const KTDistanceUnit unit = unitOf(element);
+    const auto read = [&](const char *name) { return length(element, QString::fromLatin1(name), 0.0, unit); };
+    const KTMargins bleed(read("bleed_top"), read("bleed_bottom"), read("bleed_left"), read("bleed_right"));
+    KTPageSizeSpec size(QSize(read("width"), read("height")), bleed);
+    if (element.hasAttribute(QStringLiteral("slipcase_width")))
+        size.setUsableSlipcaseCoverSize(QSize(read("slipcase_width"), read("slipcase_height")));
+    return {KTPageContext(KTPageType(text(element, QStringLiteral("type"))),
+                          KTPageAlignment(text(element, QStringLiteral("alignment")))),
+            size};
+}
+
+KTPageCountOrganization readPageCounts(const QDomElement &article, const KTArticleId &articleId)
+{
+    if (articleId.isAdventCalendarWithDoorBackPrint())
+        return KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint();
+    if (KTArticleClass(text(article, ARTICLE_CLASS_ATTRIBUTE)).matches(KTArticleClassPictureBox))
+        return KTPageCountOrganization::createFromProductsXMLForPictureBox(article);
+    return KTPageCountOrganization::createFromProductsXML(article);
+}
+
+} // namespace
+
+KTArticleModel::KTArticleModel(const QDomElement &article)
+    : articleId(KTArticleId::findId(article))
+    , name(text(article, QStringLiteral("name")))
+    , productType(KTProductType::fromMcf(article))
+    , priceClass(text(article, QStringLiteral("price_class")))
+    , shippingGroup(article, QStringLiteral("shipping_group"))
+    , options(article)
+    , pageCounts(readPageCounts(article, articleId))
+    , spine(KTSpineConfig::createFromProductsXML(article))
+    , hasSpine(!article.firstChildElement(QStringLiteral("composition"))
+                    .firstChildElement(QStringLiteral("spine"))
+                    .isNull())
+{
+    for (const KTClassification &classification : KTClassification::all()) {
+        if (classification.element() == article.tagName() && article.hasAttribute(classification.attribute()))
+            classifications.append(
+                {&classification, classification.read(text(article, classification.attribute()))});
+    }
+    for (QDomElement page = article.firstChildElement(QStringLiteral("page")); !page.isNull();
+         page = page.nextSiblingElement(QStringLiteral("page"))) {
+        pages.append(readPage(page));
+    }
+    const QDomElement barcodeParent = article.firstChildElement(QStringLiteral("barcodes"));
+    barcodes = KTBarcodeDefinitionList::createFromProductsXML(barcodeParent, unitOf(barcodeParent));
+}
+
+QPair<int, int> KTArticleModel::validPagesAround(int wish) const
+{
+    if (pageCounts.isValidPageCount(wish))
+        return {wish, wish};
+    if (pageCounts.pageIncrement() == 0)
+        return {pageCounts.constrain(wish), pageCounts.constrain(wish)};
+    const int last = pageCounts.pagesWithNExtraPackages(std::max(0, pageCounts.numberOfPackages() - 1));
+    const int below = pageCounts.pagesWithNExtraPackages(pageCounts.countPackages(wish));
+    const int above = pageCounts.constrain(wish);
+    return {std::min(below, last), std::min(above, last)};
+}

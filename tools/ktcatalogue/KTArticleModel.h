@@ -1,0 +1,49 @@
+#pragma once
+
+#include "KTClassifications.h"
+
+#include <KTArticleId.h>
+#include <KTBarcodeDefinitionList.h>
+#include <KTConfiguredArticleVariantList.h>
+#include <KTPageContext.h>
+#include <KTPageCountOrganization.h>
+#include <KTPageSizeSpec.h>
+#include <KTPriceClass.h>
+#include <KTProductType.h>
+#include <KTShippingGroupId.h>
+#include <KTSpineConfig.h>
+
+#include <QPair>
+
+class QDomElement;
+
+/** What the library makes of one article of a catalogue. */
+struct KTArticleModel
+{
+    /** A kind of page and its size. */
+    struct Page
+    {
+        KTPageContext context;
+        KTPageSizeSpec size;
+    };
+
+    /** Reads everything; what is missing or malformed takes the library's defaults. */
+    explicit KTArticleModel(const QDomElement &article);
+
+    /** The valid page counts next below and above the wish; twice the wish if it is one itself. */
+    QPair<int, int> validPagesAround(int pages) const;
+
+    KTArticleId articleId;
+    QString name;
+    /** Only those whose attribute is there. */
+    QVector<QPair<const KTClassification *, KTClassificationReading>> classifications;
+    KTProductType productType;
+    KTPriceClass priceClass;
+    KTShippingGroupId shippingGroup;
+    KTConfiguredArticleVariantList options;
+    KTPageCountOrganization pageCounts;
+    KTSpineConfig spine;
+    bool hasSpine;
+    QVector<Page> pages;
+    KTBarcodeDefinitionList barcodes;
+};

@@ -1,0 +1,151 @@
+#include "KTClassifications.h"
+
+#include <KTArticleClass.h>
+#include <KTCoverType.h>
+#include <KTDistanceUnit.h>
+#include <KTDlpType.h>
+#include <KTFotoPaperType.h>
+#include <KTMaterialType.h>
+#include <KTOrientation.h>
+#include <KTPageAlignment.h>
+#include <KTPageBinding.h>
+#include <KTPageType.h>
+#include <KTPaperType.h>
+#include <KTProductArrangement.h>
+#include <KTSpaceMagnitude.h>
+#include <KTSpotColor.h>
+
+#include <algorithm>
+
+namespace {
+
+// Each classification tells its name in its own words, and some have none.
+template <typename CLASS>
+QString displayName(const CLASS &)
+{
+    return QString();
+}
+QString displayName(const KTArticleClass &value)
+{
+    return value.toHumanReadable();
+}
+QString displayName(const KTCoverType &value)
+{
+    return value.humanReadableName();
+}
+QString displayName(const KTDlpType &value)
+{
+    return value.visibleName();
+}
+QString displayName(const KTFotoPaperType &value)
+{
+    return value.humanReadableName();
+}
+QString displayName(const KTOrientation &value)
+{
+    return value.humanReadable().trimmed();
+}
+QString displayName(const KTPageAlignment &value)
+{
+    return value.describe();
+}
+QString displayName(const KTPageBinding &value)
+{
+    return value.humanReadableName();
+}
+QString displayName(const KTPaperType &value)
+{
+    return value.humanReadableName();
+}
+QString displayName(const KTSpaceMagnitude &value)
+{
+    return value.humanReadableName();
+}
+
+template <typename CLASS>
+QString written(const CLASS &value)
+{
+    return value.allKnownEnumValues().contains(value.value()) ? value.encode() : value.encodeCSV();
+}
+
+template <typename CLASS>
+KTClassificationReading readText(const QString &text)
+{
+    const CLASS value(text);
+    KTClassificationReading reading {written(value), displayName(value), {}, {}};
+    const auto &known = value.enumToStringTable()->keywordToValue;
+    for (const QString &part : text.split(QLatin1Char(','))) {
+        if (!known.contains(part.trimmed().toLower()))
+            reading.unknown.append(part.trimmed());
+    }
+    if (!reading.unknown.isEmpty())
+        reading.readAs = written(CLASS(value.enumToStringTable()->defaultValue));
+    return reading;
+}
+
+template <typename CLASS>
+QVector<KTKeywordInfo> keywordsOf()
+{
+    QVector<KTKeywordInfo> keywords;
+    for (const auto value : CLASS().allKnownEnumValues()) {
+        const CLASS one(value);
+        QStringList aliases = one.allPossibleKeywordsOneElement();
+        aliases.removeAll(one.encode().toLower());
+        keywords.append({one.encode(), aliases, value, displayName(one)});
+    }
+    std::sort(keywords.begin(), keywords.end(), [](const KTKeywordInfo &first, const KTKeywordInfo &second) {
+        return first.value < second.value;
+    });
+    return keywords;
+}
+
+} // namespace
+
+template <typename CLASS>
+KTClassification classification(const char *className, const char *element, const char *attribute)
+{
+    KTClassification row;
+    row.myClassName = className;
+    row.myElement = element;
+    row.myAttribute = attribute;
+    row.myRead = &readText<CLASS>;
+    row.myKeywords = &keywordsOf<CLASS>;
+    return row;
+}
+
+const QVector<KTClassification> &KTClassification::all()
+{
+    static const QVector<KTClassification> myAll {
+        classification<KTArticleClass>("KTArticleClass", "article", "article_class"),
+        classification<KTProductArrangement>("KTProductArrangement", "article", "arrangement"),
+        classification<KTSpaceMagnitude>("KTSpaceMagnitude", "article", "space_magnitude"),
+        classification<KTOrientation>("KTOrientation", "article", "orientation"),
+        classification<KTCoverType>("KTCoverType", "article", "cover_type"),
+        classification<KTPageBinding>("KTPageBinding", "article", "binding"),
+        classification<KTPaperType>("KTPaperType", "article", "paper"),
+        classification<KTFotoPaperType>("KTFotoPaperType", "article", "photo_paper"),
+        classification<KTMaterialType>("KTMaterialType", "article", "material"),
+        classification<KTDlpType>("KTDlpType", "article", "content_type"),
+        classification<KTSpotColor>("KTSpotColor", "article", "spot_colors"),
+        classification<KTPageType>("KTPageType", "page", "type"),
+        classification<KTPageAlignment>("KTPageAlignment", "page", "alignment"),
+        classification<KTDistanceUnit>("KTDistanceUnit", "", ""),
+    };
+    return myAll;
+}
+
+const KTClassification *KTClassification::ofAttribute(const QString &element, const QString &attribute)
+{
+    const auto found = std::find_if(all().begin(), all().end(), [&](const KTClassification &row) {
+        return row.element() == element && row.attribute() == attribute;
+    });
+    return found == all().end() ? nullptr : &*found;
+}
+
+const KTClassification *KTClassification::ofClass(const QString &className)
+{
+    const auto found = std::find_if(all().begin(), all().end(), [&](const KTClassification &row) {
+        return row.className() == className;
+    });
+    return found == all().end() ? nullptr : &*found;
+}
