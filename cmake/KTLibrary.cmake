@@ -36,6 +36,8 @@ function(kt_library name)
         SOVERSION ${PROJECT_VERSION_MAJOR})
     target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PUBLIC ${arg_LINKS})
+    # Keywords are static data of the library, and strings made of them may outlive a plug-in that is unloaded.
+    target_link_options(${target} PRIVATE "LINKER:-z,nodelete")
 
     include(GenerateExportHeader)
     set(export_header "${CMAKE_CURRENT_BINARY_DIR}/include/${lower}_export.h")

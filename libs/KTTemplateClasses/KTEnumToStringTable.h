@@ -1,14 +1,18 @@
 #pragma once
 
+#include "KTKeywordMap.h"
+
 #include <QDebug>
-#include <QHash>
 #include <QList>
 #include <QMessageLogger>
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
+#include <QtAlgorithms>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cxxabi.h>
 #include <memory>
@@ -56,8 +60,7 @@ public:
     /** Each bit of the value, lowest first; empty for a value below 1. */
     QList<ENUM> splitToBitsSorted(ENUM value) const;
 
-    /** Everything that can be read, in lower case, further keywords of a value included; in no stated order.
-     */
+    /** Everything that can be read, in lower case, in the order of insertion. */
     QStringList allKnownKeywords() const;
     /** Every keyword that reads as exactly this value, in lower case, sorted. */
     QStringList allPossibleKeywordsOneElement(ENUM value) const;
@@ -65,25 +68,54 @@ public:
     QStringList allPossibleKeywords(ENUM value) const;
 
     /** Every keyword in lower case. */
-    QHash<QString, ENUM> keywordToValue;
+    KTKeywordMap<QString, ENUM> keywordToValue;
     /** Every value that has a keyword, with the one that is written. */
-    QHash<ENUM, QString> valueToKeyword;
+    KTKeywordMap<ENUM, QString> valueToKeyword;
     /** Written for a value or bit without a keyword; set by the classification class. */
     QString defaultKeyword;
     /** Read from a text that is no keyword; set by the classification class. */
     ENUM defaultValue = static_cast<ENUM>(0);
 
 private:
-    using Signed = std::underlying_type_t<ENUM>;
-    using Unsigned = std::make_unsigned_t<Signed>;
-    static_assert(std::is_signed_v<Signed>, "the enumeration needs a fixed signed underlying type");
+    using KeywordEntry = typename KTKeywordMap<QString, ENUM>::Entry;
+
+    /** The bits of a value, lowest first, to walk over; none for a value below 1. */
+    class Bits
+    {
+    public:
+        struct Iterator
+        {
+            quint64 rest;
+            ENUM operator*() const { return static_cast<ENUM>(rest & (~rest + 1)); }
+            void operator++() { rest &= rest - 1; }
+            bool operator!=(Iterator other) const { return rest != other.rest; }
+        };
+        explicit Bits(ENUM value)
+            : myBits(value < 1 ? 0 : static_cast<quint64>(value))
+        {
+        }
+        Iterator begin() const { return {myBits}; }
+        Iterator end() const { return {0}; }
+        int count() const { return static_cast<int>(qPopulationCount(myBits)); }
+
+    private:
+        quint64 myBits;
+    };
+
+    static_assert(std::is_signed_v<std::underlying_type_t<ENUM>>,
+                  "the enumeration needs a fixed signed underlying type");
 
     static constexpr QChar KOMMA = u',';
-    // Stands for "no keyword" inside the decoders; no enumeration has it.
+    static constexpr int SEPARATOR_SIZE = 2;
+    static constexpr QChar SEPARATOR[SEPARATOR_SIZE] = {u',', u' '};
+    // Stands for "no keyword" inside decodeOneElement(); no enumeration has it.
     static constexpr ENUM UNKNOWN = static_cast<ENUM>(-260570);
 
     static const char *warningFunction();
-    ENUM decodePart(QStringView part, QString *buffer) const;
+    ENUM decodeView(QStringView text, ENUM fallback) const;
+    Q_NEVER_INLINE Q_DECL_COLD_FUNCTION const KeywordEntry *findExactly(QStringView trimmed) const;
+    static QString joined(const QString *const *first, const QString *const *last);
+    const QString &keywordOf(ENUM value) const;
 };
 
 template <typename ENUM>
@@ -97,7 +129,31 @@ void KTEnumToStringTable<ENUM>::insert(const QString &keyword, ENUM value)
 template <typename ENUM>
 ENUM KTEnumToStringTable<ENUM>::decode(const QString &text, ENUM fallback) const
 {
-    return keywordToValue.value(text.trimmed().toLower(), fallback);
+    return decodeView(text, fallback);
+}
+
+template <typename ENUM>
+ENUM KTEnumToStringTable<ENUM>::decodeView(QStringView text, ENUM fallback) const
+{
+    const QChar *first = text.begin();
+    const QChar *last = text.end();
+    while (first != last && first->isSpace())
+        ++first;
+    while (first != last && last[-1].isSpace())
+        --last;
+    const KTKeywordText keyword(QStringView(first, last));
+    const KeywordEntry *entry = keywordToValue.find(keyword);
+    if (!entry && !keyword.isAscii())
+        entry = findExactly(QStringView(first, last));
+    return entry ? entry->value : fallback;
+}
+
+/** For the texts that a KTKeywordText does not find: their lower case may be longer, or ASCII after all. */
+template <typename ENUM>
+const typename KTEnumToStringTable<ENUM>::KeywordEntry *
+KTEnumToStringTable<ENUM>::findExactly(QStringView trimmed) const
+{
+    return keywordToValue.find(trimmed.toString().toLower());
 }
 
 template <typename ENUM>
@@ -117,83 +173,90 @@ ENUM KTEnumToStringTable<ENUM>::decodeOneElement(const QString &text, bool warn)
 template <typename ENUM>
 ENUM KTEnumToStringTable<ENUM>::decodeCSV(const QString &text) const
 {
-    if (!text.contains(KOMMA)) {
-        const ENUM value = decode(text, UNKNOWN);
-        return value == UNKNOWN ? defaultValue : value;
-    }
-    QString buffer;
-    buffer.reserve(text.size());
     const QStringView view(text);
-    auto values = static_cast<Unsigned>(0);
-    for (qsizetype start = 0; start <= view.size();) {
-        const qsizetype end = std::find(view.begin() + start, view.end(), KOMMA) - view.begin();
-        const ENUM value = decodePart(view.mid(start, end - start), &buffer);
-        values |= static_cast<Unsigned>(value == UNKNOWN ? defaultValue : value);
+    auto values = static_cast<std::underlying_type_t<ENUM>>(0);
+    for (auto start = view.begin();;) {
+        const auto end = std::find(start, view.end(), KOMMA);
+        values |= decodeView(QStringView(start, end), defaultValue);
+        if (end == view.end())
+            return static_cast<ENUM>(values);
         start = end + 1;
     }
-    return static_cast<ENUM>(values);
-}
-
-/**
- * Decodes one entry of a list without a string of its own: an entry in ASCII is lower-cased into the buffer.
- * Others take the general way, because their lower case may be longer, or ASCII though they are not.
- */
-template <typename ENUM>
-ENUM KTEnumToStringTable<ENUM>::decodePart(QStringView part, QString *buffer) const
-{
-    const QStringView trimmed = part.trimmed();
-    buffer->resize(0);
-    for (const QChar character : trimmed) {
-        const char16_t unit = character.unicode();
-        if (unit > 0x7f)
-            return decode(trimmed.toString(), UNKNOWN);
-        buffer->append(unit >= u'A' && unit <= u'Z' ? QChar(char16_t(unit + (u'a' - u'A'))) : character);
-    }
-    return keywordToValue.value(*buffer, UNKNOWN);
 }
 
 template <typename ENUM>
 QString KTEnumToStringTable<ENUM>::encode(ENUM value) const
 {
-    return valueToKeyword.value(value, defaultKeyword);
+    return keywordOf(value);
+}
+
+template <typename ENUM>
+const QString &KTEnumToStringTable<ENUM>::keywordOf(ENUM value) const
+{
+    const auto *const entry = valueToKeyword.find(value);
+    return entry ? entry->value : defaultKeyword;
 }
 
 template <typename ENUM>
 QStringList KTEnumToStringTable<ENUM>::encodeAsList(ENUM value) const
 {
+    const Bits bits(value);
     QStringList keywords;
-    for (const ENUM bit : splitToBitsSorted(value))
-        keywords.append(encode(bit));
+    keywords.reserve(bits.count());
+    for (const ENUM bit : bits)
+        keywords.append(keywordOf(bit));
     return keywords;
 }
 
 template <typename ENUM>
 QString KTEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
 {
-    const QStringList keywords = encodeAsList(value);
-    return keywords.isEmpty() ? defaultKeyword : keywords.join(QStringLiteral(", "));
+    std::array<const QString *, 63> keywords; // A value without its sign bit has no more bits.
+    std::size_t count = 0;
+    for (const ENUM bit : Bits(value))
+        keywords[count++] = &keywordOf(bit);
+    if (count == 0)
+        return defaultKeyword;
+    return count == 1 ? *keywords[0] : joined(keywords.data(), keywords.data() + count);
+}
+
+/** The texts with ", " between them, in one allocation; there is at least one. */
+template <typename ENUM>
+QString KTEnumToStringTable<ENUM>::joined(const QString *const *first, const QString *const *last)
+{
+    int size = 0;
+    for (const QString *const *text = first; text != last; ++text)
+        size += (*text)->size() + SEPARATOR_SIZE;
+    QString result(size, Qt::Uninitialized);
+    QChar *end = result.data();
+    for (const QString *const *text = first; text != last; ++text) {
+        end = std::copy((*text)->begin(), (*text)->end(), end);
+        end = std::copy(std::begin(SEPARATOR), std::end(SEPARATOR), end);
+    }
+    result.chop(SEPARATOR_SIZE);
+    return result;
 }
 
 template <typename ENUM>
 QSet<ENUM> KTEnumToStringTable<ENUM>::splitToBits(ENUM value) const
 {
-    const QList<ENUM> bits = splitToBitsSorted(value);
-    return QSet<ENUM>(bits.begin(), bits.end());
+    const Bits bits(value);
+    QSet<ENUM> result;
+    result.reserve(bits.count());
+    for (const ENUM bit : bits)
+        result.insert(bit);
+    return result;
 }
 
 template <typename ENUM>
 QList<ENUM> KTEnumToStringTable<ENUM>::splitToBitsSorted(ENUM value) const
 {
-    QList<ENUM> bits;
-    auto rest = static_cast<Unsigned>(value);
-    // The remainder is asked as a signed number, so that a value with its sign bit set has no bits at all.
-    for (Unsigned probe = 1; static_cast<Signed>(rest) > 0; probe <<= 1) {
-        if (rest & probe) {
-            bits.append(static_cast<ENUM>(probe));
-            rest &= ~probe;
-        }
-    }
-    return bits;
+    const Bits bits(value);
+    QList<ENUM> result;
+    result.reserve(bits.count());
+    for (const ENUM bit : bits)
+        result.append(bit);
+    return result;
 }
 
 template <typename ENUM>
@@ -214,7 +277,7 @@ template <typename ENUM>
 QStringList KTEnumToStringTable<ENUM>::allPossibleKeywords(ENUM value) const
 {
     QStringList keywords;
-    for (const ENUM bit : splitToBitsSorted(value))
+    for (const ENUM bit : Bits(value))
         keywords += allPossibleKeywordsOneElement(bit);
     return keywords;
 }

@@ -5,8 +5,8 @@
 #include <QAtomicPointer>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QtAlgorithms>
 
-#include <limits>
 #include <memory>
 
 /**
@@ -99,10 +99,10 @@ public:
     bool containsAll(ENUM other) const { return common(other) == other; }
     bool containsAll(const KTEnumWrapper &other) const { return containsAll(other.myValue); }
     /** The number of set bits, 0 for a value below 1. */
-    int countBits() const { return countBits(std::numeric_limits<int>::max()); }
-    bool hasExactlyOneBit() const { return countBits(2) == 1; }
+    int countBits() const;
+    bool hasExactlyOneBit() const { return countBits() == 1; }
     /** True when more than one bit is set; the callers' code spells the name so. */
-    bool isConglumerate() const { return countBits(2) > 1; }
+    bool isConglumerate() const { return countBits() > 1; }
     /** Adds or removes the bits of the argument. */
     void setBit(ENUM bit, bool on);
     /** Flips, one by one, the bits that the other value has. */
@@ -113,6 +113,7 @@ public:
 
 private:
     using Signed = std::underlying_type_t<ENUM>;
+    using TablePointer = QBasicAtomicPointer<KTEnumToStringTable<ENUM>>;
 
     ENUM common(ENUM other) const { return static_cast<ENUM>(myValue & other); }
     KTEnumWrapper &assign(Signed value)
@@ -120,7 +121,8 @@ private:
         myValue = static_cast<ENUM>(value);
         return *this;
     }
-    int countBits(int limit) const;
+    Q_NEVER_INLINE Q_DECL_COLD_FUNCTION KTEnumToStringTable<ENUM> *
+    createTable(TablePointer *sharedTable) const;
 
     ENUM myValue;
 };
@@ -142,33 +144,34 @@ void KTEnumWrapper<ENUM>::toggleBits(const KTEnumWrapper &other)
 }
 
 template <typename ENUM>
-int KTEnumWrapper<ENUM>::countBits(int limit) const
+int KTEnumWrapper<ENUM>::countBits() const
 {
-    // Counting builds the table like every other question about bits: a caller may count first and then use
-    // it.
+    // Counting builds the table like every other question about bits: a caller may count first, then use it.
     enumToStringTable();
-    int count = 0;
-    for (Signed rest = myValue; rest > 0 && count < limit; rest &= rest - 1)
-        ++count;
-    return count;
+    return myValue < 1 ? 0 : static_cast<int>(qPopulationCount(static_cast<quint64>(myValue)));
 }
 
 template <typename ENUM>
 KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::enumToStringTable() const
 {
-    static QBasicAtomicPointer<KTEnumToStringTable<ENUM>> myTable = Q_BASIC_ATOMIC_INITIALIZER(nullptr);
-    if (KTEnumToStringTable<ENUM> *const table = myTable.loadAcquire())
-        return table;
+    static TablePointer myTable = Q_BASIC_ATOMIC_INITIALIZER(nullptr);
+    KTEnumToStringTable<ENUM> *const table = myTable.loadAcquire();
+    return table ? table : createTable(&myTable);
+}
 
+/** Apart from its caller, so that every later question is one load and one comparison. */
+template <typename ENUM>
+KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::createTable(TablePointer *sharedTable) const
+{
     static QMutex theMutex;
     const QMutexLocker locker(&theMutex);
-    if (!myTable.loadRelaxed()) {
+    if (!sharedTable->loadRelaxed()) {
         // Published only when it is complete; a throwing fillTable() leaves no table behind.
         auto table = std::make_unique<KTEnumToStringTable<ENUM>>();
         fillTable(table.get());
-        myTable.storeRelease(table.release());
+        sharedTable->storeRelease(table.release());
     }
-    return myTable.loadRelaxed();
+    return sharedTable->loadRelaxed();
 }
 
 /** Hashes the value; equal wrappers are equal keys. */
