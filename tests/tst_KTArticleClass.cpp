@@ -103,10 +103,9 @@ private Q_SLOTS:
     void sortsShoppingCart()
     {
         // Where the cart leaves the order of the bits.
-        const QStringList sorted = QStringLiteral("card spotColor_addOn matt_cover_addOn giftBox_addOn "
-                                                  "flyleafcolor video_addOn locrMap_addOn design_addOn "
-                                                  "frame_addOn giftWrap_addOn envelope_addOn slipcase")
-                                       .split(u' ');
+        const QStringList sorted = u"card spotColor_addOn matt_cover_addOn giftBox_addOn "
+                                   "flyleafcolor video_addOn locrMap_addOn design_addOn "
+                                   "frame_addOn giftWrap_addOn envelope_addOn slipcase"_s.split(u' ');
         for (int i = 0; i < sorted.size(); ++i) {
             for (int j = 0; j < sorted.size(); ++j) {
                 QCOMPARE(KTArticleClass::lessThanShopCart(KTArticleClass(sorted.at(i)).value(),
@@ -128,16 +127,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<qint64>("value");
         QTest::addColumn<QString>("xml");
-        QTest::newRow("none") << qint64(0) << QStringLiteral("<t/>");
-        QTest::newRow("full range") << qint64(32767) << QStringLiteral("<t/>");
-        QTest::newRow("composite") << qint64(
-            6) << QStringLiteral("<t><type>normal_calendar</type><type>agenda</type></t>");
-        QTest::newRow("reserved") << qint64(536870912) << QStringLiteral("<t><type></type></t>");
+        QTest::newRow("none") << qint64(0) << u"<t/>"_s;
+        QTest::newRow("full range") << qint64(32767) << u"<t/>"_s;
+        QTest::newRow("composite") << qint64(6)
+                                   << u"<t><type>normal_calendar</type><type>agenda</type></t>"_s;
+        QTest::newRow("reserved") << qint64(536870912) << u"<t><type></type></t>"_s;
     }
     void writesTemplate()
     {
         QFETCH(qint64, value);
-        QDomElement element = KTTest::element(QStringLiteral("<t/>"));
+        QDomElement element = KTTest::element(u"<t/>"_s);
         KTArticleClass(static_cast<KTArticleClassEnum>(value)).toTemplates2Format(element);
         QTEST(KTTest::xml(element), "xml");
     }
@@ -150,13 +149,12 @@ private Q_SLOTS:
                 keywords.append(articleClass.encode());
             return keywords.join(u' ');
         };
-        const auto list
-            = KTArticleClassList::parseArticleClasses(QStringLiteral("Book,, card ,bock,gift,book"));
-        QCOMPARE(written(list), QStringLiteral("book card none gift book"));
-        QCOMPARE(written(list.filter(KTArticleClassFullrange)), QStringLiteral("book card gift book"));
-        QCOMPARE(written(list.filter(KTArticleClassPuzzle)), QStringLiteral("gift"));
+        const auto list = KTArticleClassList::parseArticleClasses(u"Book,, card ,bock,gift,book"_s);
+        QCOMPARE(written(list), u"book card none gift book"_s);
+        QCOMPARE(written(list.filter(KTArticleClassFullrange)), u"book card gift book"_s);
+        QCOMPARE(written(list.filter(KTArticleClassPuzzle)), u"gift"_s);
         QVERIFY(list.filter(KTArticleClassNone).isEmpty());
-        QVERIFY(KTArticleClassList::parseArticleClasses(QStringLiteral(",,")).isEmpty());
+        QVERIFY(KTArticleClassList::parseArticleClasses(u",,"_s).isEmpty());
     }
 };
 

@@ -85,7 +85,7 @@ private Q_SLOTS:
         QFETCH(QString, attributes);
         QFETCH(KTDistanceUnit, unit);
         QFETCH(KTBarcodeDefinition, expected);
-        const QDomElement element = KTTest::element(QStringLiteral("<barcode %1/>").arg(attributes));
+        const QDomElement element = KTTest::element(u"<barcode %1/>"_s.arg(attributes));
         const KTMessageRecorder recorder;
         const KTBarcodeDefinition read = KTBarcodeDefinition::createFromProductsXML(element, unit);
         QTEST(recorder.messages().size(), "warnings");
@@ -96,9 +96,9 @@ private Q_SLOTS:
 
     void readsList()
     {
-        const QDomElement element = KTTest::element(
-            QStringLiteral("<p><barcode pageNr='1'/><other/><barcode width='0'/><barcode pageNr='2'/>"
-                           "<group><barcode/></group><Barcode/></p>"));
+        const QDomElement element
+            = KTTest::element(u"<p><barcode pageNr='1'/><other/><barcode width='0'/><barcode pageNr='2'/>"
+                              "<group><barcode/></group><Barcode/></p>"_s);
         const KTDistanceUnit unit(KTDistanceUnitLayout);
         const KTBarcodeDefinitionList read = KTBarcodeDefinitionList::createFromProductsXML(element, unit);
         const QRect rect(1, 0, 1, 1);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         const auto isDefined = [](Wide first, Wide size) {
             return size > INT_MIN && first + size > INT_MIN && first + size <= INT_MAX;
         };
-        QDomElement element = KTTest::element(QStringLiteral("<barcode/>"));
+        QDomElement element = KTTest::element(u"<barcode/>"_s);
         for (const double position : KTTest::DOUBLES) {
             for (const double size : KTTest::DOUBLES) {
                 for (const char *const name : {"position_x", "position_y"})
@@ -254,8 +254,8 @@ private Q_SLOTS:
         KTDirectoryConfig *const config = KTDirectoryConfig::instance();
         const QString root = config->resourceRoot();
         config->setResourceRoot(folder.path());
-        const QDir icons(folder.filePath(QStringLiteral("icons/picshelf")));
-        QVERIFY(icons.mkpath(QStringLiteral(".")));
+        const QDir icons(folder.filePath(u"icons/picshelf"_s));
+        QVERIFY(icons.mkpath(u"."_s));
         const auto save = [&icons](const QString &name, const QSize &size) {
             QImage image(size, QImage::Format_Mono);
             image.fill(1);
@@ -264,17 +264,17 @@ private Q_SLOTS:
         const KTMessageRecorder recorder;
         const KTBarcodeDefinition late = definition(QRect(0, 0, 1, 1), 0, "late.png");
         QVERIFY(late.image().isNull());
-        QVERIFY(save(QStringLiteral("late.png"), QSize(3, 4)));
+        QVERIFY(save(u"late.png"_s, QSize(3, 4)));
         QCOMPARE(late.image().size(), QSize(3, 4));
         // From now on the image is kept, by the copies too.
-        QVERIFY(QFile::remove(icons.filePath(QStringLiteral("late.png"))));
+        QVERIFY(QFile::remove(icons.filePath(u"late.png"_s)));
         QCOMPARE(list({late}).findDefinition(late.rect()).image().size(), QSize(3, 4));
         QCOMPARE(list({late}).findDefinition(QRect(0, 0, 1, 2)), KTBarcodeDefinition());
         QCOMPARE(late, definition(late.rect(), 0, "late.png"));
 
-        QVERIFY(save(QStringLiteral("most.png"), QSize(8000, 8000)));
-        QVERIFY(save(QStringLiteral("more.png"), QSize(8000, 8001)));
-        QVERIFY(save(QStringLiteral("../outside.png"), QSize(3, 4)));
+        QVERIFY(save(u"most.png"_s, QSize(8000, 8000)));
+        QVERIFY(save(u"more.png"_s, QSize(8000, 8001)));
+        QVERIFY(save(u"../outside.png"_s, QSize(3, 4)));
         QCOMPARE(definition(QRect(), 0, "most.png").image().size(), QSize(8000, 8000));
         for (const char *const name : {"more.png", "../outside.png", ".", ""})
             QVERIFY(definition(QRect(), 0, name).image().isNull());

@@ -14,6 +14,7 @@
 #include <KTSpotColor.h>
 
 #include "KTClassificationTest.h"
+#include "KTTestSupport.h"
 
 #include <QCoreApplication>
 #include <QMap>
@@ -34,7 +35,7 @@ void check(int keywords, int values, qint64 unknown)
     QCOMPARE(none.allKnownKeywords().size(), keywords);
     QCOMPARE(none.allKnownEnumValues().size(), values);
     QCOMPARE(qint64(CLASS(QString()).value()), unknown);
-    QCOMPARE(qint64(CLASS(QStringLiteral("no keyword")).value()), unknown);
+    QCOMPARE(qint64(CLASS(u"no keyword"_s).value()), unknown);
 
     QMap<CLASS, QString> map;
     QSet<CLASS> set;

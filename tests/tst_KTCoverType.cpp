@@ -1,6 +1,7 @@
 #include <KTCoverType.h>
 
 #include "KTClassificationTest.h"
+#include "KTTestSupport.h"
 
 #include <QtTest>
 
@@ -73,7 +74,7 @@ private Q_SLOTS:
         using KTTest::bitsWhere;
         QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isFullCover(); }), 19);
         QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isSimplex(); }), 1952);
-        QVERIFY(KTCoverType(QStringLiteral("LEATHER,SOFT")).isFullCover());
+        QVERIFY(KTCoverType(u"LEATHER,SOFT"_s).isFullCover());
     }
 };
 

@@ -1,5 +1,7 @@
 #include <KTDirectoryConfig.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -19,7 +21,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(path("root/plain.png"), path("root/icons/inside")));
         QVERIFY(QFile::link(path("root-other"), path("root/neighbour")));
         QVERIFY(QFile::link(path("root/loop"), path("root/loop")));
-        QVERIFY(QFile::link(QStringLiteral("/dev/null"), path("root/device")));
+        QVERIFY(QFile::link(u"/dev/null"_s, path("root/device")));
         QCOMPARE(mkfifo(QFile::encodeName(path("root/fifo")).constData(), 0600), 0);
     }
 
@@ -39,7 +41,7 @@ private Q_SLOTS:
             row(outside);
         row("icons/../plain.png");
         QTest::newRow("absolute") << path("root/plain.png") << QString();
-        QTest::newRow("NUL") << QStringLiteral("plain.png") + QChar::Null << QString();
+        QTest::newRow("NUL") << u"plain.png"_s + QChar::Null << QString();
         QTest::newRow("too long") << QString(100000, QLatin1Char('x')) << QString();
     }
     void findsOnlyFilesBelowTheRoot()
@@ -55,14 +57,14 @@ private Q_SLOTS:
 
     void choosesTheRoot()
     {
-        const QString name = QStringLiteral("icons/picshelf/dummy-barcode.png");
+        const QString name = u"icons/picshelf/dummy-barcode.png"_s;
         const QString found = KTDirectoryConfig::instance()->resource(name, false);
-        QVERIFY2(found.endsWith(QStringLiteral("share/KTProductBase/") + name), qPrintable(found));
+        QVERIFY2(found.endsWith(u"share/KTProductBase/"_s + name), qPrintable(found));
         qputenv("KTPRODUCTBASE_RESOURCES", QFile::encodeName(path("root")));
         QCOMPARE(KTDirectoryConfig().resourceRoot(), path("root"));
         // Files may lie right below the file system's root.
         KTDirectoryConfig config;
-        config.setResourceRoot(QStringLiteral("/"));
+        config.setResourceRoot(u"/"_s);
         QCOMPARE(config.resource(path("root/plain.png").mid(1), false), path("root/plain.png"));
     }
 

@@ -2,6 +2,8 @@
 #include <KTDlpType.h>
 #include <KTMaterialType.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 class tst_KTDlpType : public QObject
@@ -52,9 +54,9 @@ private Q_SLOTS:
 
     void readsMaterials()
     {
-        QCOMPARE(int(KTMaterialType(QStringLiteral("bock, Retro_Print, picture_bundle")).value()), 0x30);
+        QCOMPARE(int(KTMaterialType(u"bock, Retro_Print, picture_bundle"_s).value()), 0x30);
         QCOMPARE(KTMaterialType(static_cast<KTMaterialTypeEnum>(15)).encodeCSV(),
-                 QStringLiteral("notebook, picture_box, card_playing, deco_print"));
+                 u"notebook, picture_box, card_playing, deco_print"_s);
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "KTAllocationCounter.h"
 #include "KTMessageRecorder.h"
+#include "KTTestSupport.h"
 
 #include <QHash>
 #include <QRandomGenerator>
@@ -23,14 +24,14 @@ struct Row
 
 /** red (also "crimson"), green and blue, "warm" for the union of red and blue. */
 const QVector<Row> ROWS = {
-    {QStringLiteral("Red"),        1  },
-    {QStringLiteral("crimson"),    1  },
-    {QStringLiteral("GREEN"),      2  },
-    {QStringLiteral("blue"),       8  },
-    {QStringLiteral("warm"),       9  },
-    {QStringLiteral("dark green"), 64 },
-    {QStringLiteral("\u00c4k"),    32 },
-    {QStringLiteral("i\u0307k"),   128},
+    {u"Red"_s,        1  },
+    {u"crimson"_s,    1  },
+    {u"GREEN"_s,      2  },
+    {u"blue"_s,       8  },
+    {u"warm"_s,       9  },
+    {u"dark green"_s, 64 },
+    {u"\u00c4k"_s,    32 },
+    {u"i\u0307k"_s,   128},
 };
 const int UNKNOWN = 16;
 
@@ -40,7 +41,7 @@ KTEnumToStringTable<KTSampleEnum> sampleTable()
     KTEnumToStringTable<KTSampleEnum> table;
     for (const Row &row : ROWS)
         table.insert(row.keyword, static_cast<KTSampleEnum>(row.value));
-    table.defaultKeyword = QStringLiteral("any");
+    table.defaultKeyword = u"any"_s;
     table.defaultValue = static_cast<KTSampleEnum>(UNKNOWN);
     return table;
 }
@@ -64,19 +65,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("value");
-        QTest::newRow("written keyword") << QStringLiteral("Red") << 1;
-        QTest::newRow("further keyword, other case") << QStringLiteral("CRIMSON") << 1;
-        QTest::newRow("blanks around") << QStringLiteral(" \t\u00a0\u2003red\n") << 1;
-        QTest::newRow("blank inside") << QStringLiteral("dark green") << 64;
-        QTest::newRow("wrong blank inside") << QStringLiteral("dark  green") << 16;
-        QTest::newRow("union") << QStringLiteral("green, warm") << 11;
+        QTest::newRow("written keyword") << u"Red"_s << 1;
+        QTest::newRow("further keyword, other case") << u"CRIMSON"_s << 1;
+        QTest::newRow("blanks around") << u" \t\u00a0\u2003red\n"_s << 1;
+        QTest::newRow("blank inside") << u"dark green"_s << 64;
+        QTest::newRow("wrong blank inside") << u"dark  green"_s << 16;
+        QTest::newRow("union") << u"green, warm"_s << 11;
         QTest::newRow("empty") << QString() << 16;
-        QTest::newRow("trailing comma") << QStringLiteral("red,") << 17;
-        QTest::newRow("two commas") << QStringLiteral("red,,green") << 19;
-        QTest::newRow("unknown entry") << QStringLiteral("red,violet") << 17;
-        QTest::newRow("umlaut in capitals") << QStringLiteral("red,\u00e4K") << 33;
-        QTest::newRow("Kelvin sign is a k") << QStringLiteral("\u00e4\u212a,green") << 34;
-        QTest::newRow("dotted capital I grows") << QStringLiteral("green,\u0130K") << 130;
+        QTest::newRow("trailing comma") << u"red,"_s << 17;
+        QTest::newRow("two commas") << u"red,,green"_s << 19;
+        QTest::newRow("unknown entry") << u"red,violet"_s << 17;
+        QTest::newRow("umlaut in capitals") << u"red,\u00e4K"_s << 33;
+        QTest::newRow("Kelvin sign is a k") << u"\u00e4\u212a,green"_s << 34;
+        QTest::newRow("dotted capital I grows") << u"green,\u0130K"_s << 130;
     }
     void decodesList()
     {
@@ -90,11 +91,9 @@ private Q_SLOTS:
         QHash<QString, int> model;
         for (const Row &row : ROWS)
             model.insert(row.keyword.toLower(), row.value);
-        const QString alphabet
-            = QStringLiteral(",,,  \t\u00a0\u2003\u0085RrEeDdGgNnKk\u212a\u0130\u0307iI\u00c4\u00e4")
+        const QString alphabet = u",,,  \t\u00a0\u2003\u0085RrEeDdGgNnKk\u212a\u0130\u0307iI\u00c4\u00e4"_s
             + QChar(0xd800) + QChar(0xdc00);
-        const QStringList words = {QStringLiteral("red"), QStringLiteral("GREEN"), QStringLiteral("warm"),
-                                   QStringLiteral("\u00c4k"), QStringLiteral("I\u0307K")};
+        const QStringList words = {u"red"_s, u"GREEN"_s, u"warm"_s, u"\u00c4k"_s, u"I\u0307K"_s};
         QRandomGenerator random(20);
         for (int round = 0; round < 20000; ++round) {
             QString text;
@@ -115,11 +114,11 @@ private Q_SLOTS:
         if (!KTAllocationCounter::isAvailable())
             QSKIP("Allocations are not counted under a sanitizer");
         const KTEnumToStringTable<KTSampleEnum> table = sampleTable();
-        const QString keyword = QStringLiteral("green");
-        const QString list = QStringLiteral(" red, CRIMSON,green ,nothing,blue");
+        const QString keyword = u"green"_s;
+        const QString list = u" red, CRIMSON,green ,nothing,blue"_s;
         QStringList words;
         for (int i = 0; i < 54; ++i)
-            words.append(QStringLiteral("keyword_%1").arg(i));
+            words.append(u"keyword_%1"_s.arg(i));
 
         const KTAllocationCounter reading;
         QCOMPARE(table.decode(keyword, KTSampleNone), KTSampleGreen);
@@ -142,13 +141,11 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("warn");
         QTest::addColumn<QString>("message");
-        const QString tail = QStringLiteral(" (using default in 12KTSampleEnum )");
-        QTest::newRow("unknown") << QStringLiteral("violet") << true
-                                 << QString(QStringLiteral("undecodable: \"violet\"") + tail);
-        QTest::newRow("blanks only") << QStringLiteral("  ") << true
-                                     << QString(QStringLiteral("undecodable: \"  \"") + tail);
-        QTest::newRow("not asked to") << QStringLiteral("violet") << false << QString();
-        QTest::newRow("empty") << QStringLiteral("") << true << QString();
+        const QString tail = u" (using default in 12KTSampleEnum )"_s;
+        QTest::newRow("unknown") << u"violet"_s << true << QString(u"undecodable: \"violet\""_s + tail);
+        QTest::newRow("blanks only") << u"  "_s << true << QString(u"undecodable: \"  \""_s + tail);
+        QTest::newRow("not asked to") << u"violet"_s << false << QString();
+        QTest::newRow("empty") << u""_s << true << QString();
         QTest::newRow("null") << QString() << true << QString();
     }
     void warnsOfUndecodableText()
@@ -176,7 +173,7 @@ private Q_SLOTS:
     void decodesKnownElementSilently()
     {
         const KTMessageRecorder recorder;
-        QCOMPARE(sampleTable().decodeOneElement(QStringLiteral(" Crimson "), true), KTSampleRed);
+        QCOMPARE(sampleTable().decodeOneElement(u" Crimson "_s, true), KTSampleRed);
         QVERIFY(recorder.messages().isEmpty());
     }
 
@@ -223,19 +220,18 @@ private Q_SLOTS:
     void keepsFirstKeywordAndLastValue()
     {
         KTEnumToStringTable<KTSampleEnum> table = sampleTable();
-        table.insert(QStringLiteral("CRIMSON"), KTSampleBlue);
-        QCOMPARE(table.decode(QStringLiteral("crimson"), KTSampleNone), KTSampleBlue);
-        QCOMPARE(table.encode(KTSampleRed), QStringLiteral("Red"));
-        QCOMPARE(table.encode(KTSampleBlue), QStringLiteral("blue"));
+        table.insert(u"CRIMSON"_s, KTSampleBlue);
+        QCOMPARE(table.decode(u"crimson"_s, KTSampleNone), KTSampleBlue);
+        QCOMPARE(table.encode(KTSampleRed), u"Red"_s);
+        QCOMPARE(table.encode(KTSampleBlue), u"blue"_s);
     }
 
     void listsKeywords()
     {
         KTEnumToStringTable<KTSampleEnum> table = sampleTable();
-        const QStringList reds = {QStringLiteral("crimson"), QStringLiteral("red")};
+        const QStringList reds = {u"crimson"_s, u"red"_s};
         QCOMPARE(table.allPossibleKeywordsOneElement(KTSampleRed), reds);
-        QCOMPARE(table.allPossibleKeywords(static_cast<KTSampleEnum>(3)),
-                 reds + QStringList(QStringLiteral("green")));
+        QCOMPARE(table.allPossibleKeywords(static_cast<KTSampleEnum>(3)), reds + QStringList(u"green"_s));
         QStringList all;
         for (const Row &row : ROWS)
             all.append(row.keyword.toLower());

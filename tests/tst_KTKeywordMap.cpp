@@ -1,5 +1,7 @@
 #include <KTKeywordMap.h>
 
+#include "KTTestSupport.h"
+
 #include <QHash>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -11,7 +13,7 @@ enum KTSampleEnum : qint64 {};
 namespace {
 
 // The neighbours of the letters, and units that a careless lower-casing takes for one another.
-const QString UNITS = QStringLiteral("aAbkzZ@[`{_ 0\u00c4\u00e4\u0130\u0141\u0161\u212a\ua0c1\ua0e1");
+const QString UNITS = u"aAbkzZ@[`{_ 0\u00c4\u00e4\u0130\u0141\u0161\u212a\ua0c1\ua0e1"_s;
 
 QChar randomUnit(QRandomGenerator *random)
 {

@@ -2,6 +2,8 @@
 
 #include <KTSpotColor.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 class tst_KTLookUpTable : public QObject
@@ -11,20 +13,20 @@ private Q_SLOTS:
     void looksUpBothWays()
     {
         KTLookUpTable<KTSpotColor, QString> table {
-            {KTSpotColorSilver, QStringLiteral("metal")},
-            {KTSpotColorGold,   QStringLiteral("metal")},
-            {KTSpotColorGloss,  QStringLiteral("shine")},
-            {KTSpotColorGloss,  QStringLiteral("Shine")}
+            {KTSpotColorSilver, u"metal"_s},
+            {KTSpotColorGold,   u"metal"_s},
+            {KTSpotColorGloss,  u"shine"_s},
+            {KTSpotColorGloss,  u"Shine"_s}
         };
-        QCOMPARE(table.valueOf(KTSpotColorGloss), QStringLiteral("Shine"));
-        QVERIFY(table.keyOf(QStringLiteral("metal")) == KTSpotColorGold);
-        QVERIFY(table.keyOf(QStringLiteral("shine")).isNull());
+        QCOMPARE(table.valueOf(KTSpotColorGloss), u"Shine"_s);
+        QVERIFY(table.keyOf(u"metal"_s) == KTSpotColorGold);
+        QVERIFY(table.keyOf(u"shine"_s).isNull());
         QVERIFY(table.valueOf(KTSpotColor()).isNull());
 
         table.defaultKey = KTSpotColorSilverInk;
-        table.defaultValue = QStringLiteral("none");
-        QVERIFY(table.keyOf(QStringLiteral("shine")) == KTSpotColorSilverInk);
-        QCOMPARE(table.valueOf(KTSpotColor()), QStringLiteral("none"));
+        table.defaultValue = u"none"_s;
+        QVERIFY(table.keyOf(u"shine"_s) == KTSpotColorSilverInk);
+        QCOMPARE(table.valueOf(KTSpotColor()), u"none"_s);
     }
 };
 

@@ -1,5 +1,7 @@
 #include <KTModelAddOnStatistic.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 using KTAmounts = QMap<KTPriceClass, int>;
@@ -24,8 +26,8 @@ private Q_SLOTS:
         QFETCH(bool, second);
         KTContentStatistic statistic(-2, 5,
                                      KTAmounts {
-                                         {KTPriceClass(),         -7},
-                                         {QStringLiteral("FOP2"), 3 }
+                                         {KTPriceClass(), -7},
+                                         {u"FOP2"_s,      3 }
         });
         const KTModelAddOnStatistic earlier(statistic);
         statistic.adaptFromOrToVario(first, second);
@@ -38,16 +40,16 @@ private Q_SLOTS:
     {
         const KTContentStatistic content(0, 0, KTAmounts());
         KTModelAddOnStatistic statistic(content);
-        QCOMPARE(statistic.videoAddOn().toString(), QStringLiteral("VDO1"));
-        statistic = KTModelAddOnStatistic(content, KTPriceClass(), QStringLiteral("FOP1"));
+        QCOMPARE(statistic.videoAddOn().toString(), u"VDO1"_s);
+        statistic = KTModelAddOnStatistic(content, KTPriceClass(), u"FOP1"_s);
         QVERIFY(statistic.videoAddOn().isEmpty() && statistic.flyLeafAddOn().isEmpty());
-        const KTArticleVariants variants(QStringLiteral("flyleafcolor:red"));
-        statistic.setFlyLeafAddOn(QStringLiteral("FLF1"), variants);
-        statistic.setDesignStyleAddOns({QStringLiteral("91")});
+        const KTArticleVariants variants(u"flyleafcolor:red"_s);
+        statistic.setFlyLeafAddOn(u"FLF1"_s, variants);
+        statistic.setDesignStyleAddOns({u"91"_s});
         QVERIFY(statistic.flyLeafVariants() == variants);
         QCOMPARE(statistic.flyLeafAddOn().toString() + statistic.spotColorAddOn().toString()
                      + statistic.designStyleAddOns().toString(),
-                 QStringLiteral("FLF1FOP191"));
+                 u"FLF1FOP191"_s);
     }
 };
 

@@ -1,6 +1,8 @@
 #include <KTOrderIdList.h>
 #include <KTOrderProjectInfo.h>
 
+#include "KTTestSupport.h"
+
 #include <QDataStream>
 #include <QtTest>
 
@@ -15,8 +17,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("position");
         QTest::addColumn<bool>("valid");
         QTest::addColumn<QByteArray>("bytes");
-        const QString s = QStringLiteral("s");
-        const QString e = QStringLiteral("");
+        const QString s = u"s"_s;
+        const QString e = u""_s;
         QTest::newRow("complete") << s << s << 0 << true << QByteArray("000000020073 00000000 000000020073");
         QTest::newRow("empty texts") << e << e << 258 << true << QByteArray("00000000 00000102 00000000");
         QTest::newRow("position") << s << e << -1 << false << QByteArray("00000000 ffffffff 000000020073");
@@ -42,26 +44,25 @@ private Q_SLOTS:
         QCOMPARE(written, QByteArray::fromHex(bytes.left(bytes.indexOf(' ')) + bytes));
         QString debug;
         QDebug(&debug) << info;
-        QCOMPARE(debug, QStringLiteral("\"%1\" %2 \"%3\" ").arg(order).arg(position).arg(session));
+        QCOMPARE(debug, u"\"%1\" %2 \"%3\" "_s.arg(order).arg(position).arg(session));
         orderId.clear();
-        QVERIFY(!orderId.isValid() && orderId == KTOrderId(QStringLiteral("")));
+        QVERIFY(!orderId.isValid() && orderId == KTOrderId(u""_s));
     }
 
     void marksDeletion()
     {
         KTOrderProjectInfo mark = KTOrderProjectInfo::createDeletingProjetInfo();
         QVERIFY(mark.deleteProjectInfo() && mark.xtciSession().isNull() && !mark.orderId().isValid());
-        mark.setOrderId(QStringLiteral("A"));
+        mark.setOrderId(u"A"_s);
         QVERIFY(!mark.isValid() && mark.orderId().isValid() && mark.orderPosition() == 0);
     }
 
     void writesTexts()
     {
-        const KTOrderId order(QStringLiteral("a-_-"));
-        const KTOrderId later(QStringLiteral("b"));
-        QCOMPARE(order.toString(true) + order.toString(false), QStringLiteral("a___a-_-"));
-        QCOMPARE((KTOrderIdList {later, KTOrderId(), order, KTOrderId(QStringLiteral(""))}).toString(),
-                 QStringLiteral("b,a-_-,"));
+        const KTOrderId order(u"a-_-"_s);
+        const KTOrderId later(u"b"_s);
+        QCOMPARE(order.toString(true) + order.toString(false), u"a___a-_-"_s);
+        QCOMPARE((KTOrderIdList {later, KTOrderId(), order, KTOrderId(u""_s)}).toString(), u"b,a-_-,"_s);
         QVERIFY(order < later && later > order && !(order > later) && order <= later && !(later <= order));
         QVERIFY(order >= order && order <= order && !(order < order) && order != later);
     }

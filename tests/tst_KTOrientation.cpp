@@ -43,17 +43,17 @@ private Q_SLOTS:
         QCOMPARE(square.value(), KTOrientationSquare);
         QTEST(int(KTOrientation(size).value()), "value");
         QTEST(int(KTOrientation::createFromSize(size).value()), "value");
-        QTEST(int(KTOrientation(QStringLiteral("bock"), size).value()), "value");
-        QCOMPARE(KTOrientation(QStringLiteral("Quadratic"), size).value(), KTOrientationSquare);
+        QTEST(int(KTOrientation(u"bock"_s, size).value()), "value");
+        QCOMPARE(KTOrientation(u"Quadratic"_s, size).value(), KTOrientationSquare);
     }
 
     void readsAndWritesKeywords()
     {
-        QCOMPARE(KTOrientation(QStringLiteral("landscape_large")).encode(), QStringLiteral("landscape"));
-        QCOMPARE(KTOrientation(QStringLiteral("quadratic")).encode(), QStringLiteral("square"));
-        QCOMPARE(int(KTOrientation(QStringLiteral("all")).value()), 31);
-        QCOMPARE(KTOrientation().encodeCSV(), QStringLiteral("portrait"));
-        QCOMPARE(KTOrientation(static_cast<KTOrientationEnum>(6)).encode(), QStringLiteral("portrait"));
+        QCOMPARE(KTOrientation(u"landscape_large"_s).encode(), u"landscape"_s);
+        QCOMPARE(KTOrientation(u"quadratic"_s).encode(), u"square"_s);
+        QCOMPARE(int(KTOrientation(u"all"_s).value()), 31);
+        QCOMPARE(KTOrientation().encodeCSV(), u"portrait"_s);
+        QCOMPARE(KTOrientation(static_cast<KTOrientationEnum>(6)).encode(), u"portrait"_s);
         QCOMPARE(KTOrientation::createFromPageTilt(-0.0).value(), KTOrientationLandscape);
         QCOMPARE(KTOrientation::createFromPageTilt(90).value(), KTOrientationPortrait);
     }
@@ -109,14 +109,14 @@ private Q_SLOTS:
 
     void writesTemplate()
     {
-        QDomElement element = KTTest::element(QStringLiteral("<t/>"));
+        QDomElement element = KTTest::element(u"<t/>"_s);
         KTOrientation(KTOrientationAll).toTemplates2Format(element);
         KTOrientation().toTemplates2Format(element);
         QVERIFY(element.firstChild().isNull());
         KTOrientation(static_cast<KTOrientationEnum>(20)).toTemplates2Format(element);
         QCOMPARE(KTTest::xml(element),
-                 QStringLiteral("<t><orientation>square</orientation>"
-                                "<orientation>landscape_slim</orientation></t>"));
+                 u"<t><orientation>square</orientation>"
+                 "<orientation>landscape_slim</orientation></t>"_s);
     }
 };
 

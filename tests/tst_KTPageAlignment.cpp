@@ -1,6 +1,8 @@
 #include <KTPageAlignment.h>
 #include <KTProductArrangement.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 class tst_KTPageAlignment : public QObject
@@ -11,13 +13,13 @@ private Q_SLOTS:
     {
         for (const char *const text : {"left", "LeftPage", "cover", "coverpage", "bock", ""})
             QCOMPARE(int(KTPageAlignment(QString::fromLatin1(text)).value()), 1);
-        QCOMPARE(KTPageAlignment(QStringLiteral("rightpage")).encode(), QStringLiteral("right"));
-        QCOMPARE(int(KTPageAlignment(QStringLiteral("right,")).value()), 3);
+        QCOMPARE(KTPageAlignment(u"rightpage"_s).encode(), u"right"_s);
+        QCOMPARE(int(KTPageAlignment(u"right,"_s).value()), 3);
         QCOMPARE(KTPageAlignment(static_cast<KTPageAlignmentEnum>(127)).encodeCSV(),
-                 QStringLiteral("left, right, middle, fullpage, top, bottom, center"));
+                 u"left, right, middle, fullpage, top, bottom, center"_s);
         QVERIFY(KTPageAlignment().encode().isEmpty());
         QCOMPARE(KTProductArrangement(static_cast<KTProductArrangementEnum>(63)).encodeCSV(),
-                 QStringLiteral("trivial, , gift, card, photobook, calendar"));
+                 u"trivial, , gift, card, photobook, calendar"_s);
     }
 
     void namesProductionFiles_data()
@@ -26,18 +28,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("apart");
         QTest::addColumn<QString>("together");
-        const QString path = QStringLiteral("/out/a.pDf.d/b.PDF");
-        QTest::newRow("left") << 1 << path << QStringLiteral("/out/a_left.pdf.d/b_left.pdf")
-                              << QStringLiteral("/out/a_center.pdf.d/b_center.pdf");
-        QTest::newRow("right") << 2 << QStringLiteral("b.pdf") << QStringLiteral("b_right.pdf")
-                               << QStringLiteral("b_center.pdf");
-        QTest::newRow("union") << 3 << QStringLiteral("b.pdf") << QStringLiteral("b_center.pdf")
-                               << QStringLiteral("b_center.pdf");
-        QTest::newRow("bottom") << 32 << QStringLiteral("b.pdf") << QStringLiteral("b_center.pdf")
-                                << QStringLiteral("b_center.pdf");
-        QTest::newRow("other ending")
-            << 1 << QStringLiteral("bpdf") << QStringLiteral("bpdf") << QStringLiteral("bpdf");
-        QTest::newRow("empty path") << 1 << QStringLiteral("") << QStringLiteral("") << QStringLiteral("");
+        const QString path = u"/out/a.pDf.d/b.PDF"_s;
+        QTest::newRow("left") << 1 << path << u"/out/a_left.pdf.d/b_left.pdf"_s
+                              << u"/out/a_center.pdf.d/b_center.pdf"_s;
+        QTest::newRow("right") << 2 << u"b.pdf"_s << u"b_right.pdf"_s << u"b_center.pdf"_s;
+        QTest::newRow("union") << 3 << u"b.pdf"_s << u"b_center.pdf"_s << u"b_center.pdf"_s;
+        QTest::newRow("bottom") << 32 << u"b.pdf"_s << u"b_center.pdf"_s << u"b_center.pdf"_s;
+        QTest::newRow("other ending") << 1 << u"bpdf"_s << u"bpdf"_s << u"bpdf"_s;
+        QTest::newRow("empty path") << 1 << u""_s << u""_s << u""_s;
     }
     void namesProductionFiles()
     {
@@ -54,7 +52,7 @@ private Q_SLOTS:
         for (int value = 1; value <= 64; value *= 2)
             places.append(KTPageAlignment(static_cast<KTPageAlignmentEnum>(value)).describe());
         QCOMPARE(places.join(u'|'),
-                 QStringLiteral("links|rechts|auf dem Buchr\u00fccken|auf dieser Seite|oben|unten|mittig"));
+                 u"links|rechts|auf dem Buchr\u00fccken|auf dieser Seite|oben|unten|mittig"_s);
         for (const int value : {0, 3, 128})
             QVERIFY(KTPageAlignment(static_cast<KTPageAlignmentEnum>(value)).describe().isNull());
     }

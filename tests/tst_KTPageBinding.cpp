@@ -35,16 +35,16 @@ private Q_SLOTS:
         QTEST(int(binding.value()), "value");
         QTEST(binding.encode(), "written");
         QTEST(binding.humanReadableName(), "name");
-        QDomElement element = KTTest::element(QStringLiteral("<t/>"));
+        QDomElement element = KTTest::element(u"<t/>"_s);
         binding.toTemplates2Format(element);
         QTEST(KTTest::xml(element), "xml");
     }
 
     void writesUnknownBits()
     {
-        QDomElement element = KTTest::element(QStringLiteral("<t/>"));
+        QDomElement element = KTTest::element(u"<t/>"_s);
         KTPageBinding(static_cast<KTPageBindingEnum>(24)).toTemplates2Format(element);
-        QCOMPARE(element.text(), QStringLiteral("spiral, "));
+        QCOMPARE(element.text(), u"spiral, "_s);
         QCOMPARE(KTPageBinding::pageBindingNames()->map.size(), 3);
     }
 };

@@ -69,7 +69,7 @@ private Q_SLOTS:
     void readsElement()
     {
         QFETCH(QString, attributes);
-        const QDomElement element = KTTest::element(QStringLiteral("<page %1/>").arg(attributes));
+        const QDomElement element = KTTest::element(u"<page %1/>"_s.arg(attributes));
         QTEST(KTPageCountOrganization::createFromProductsXML(element).dump() + QLatin1Char('|')
                   + KTPageCountOrganization::createFromProductsXMLForPictureBox(element).dump(),
               "expected");
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QVERIFY(pages != pages.clone(true) && pages != KTPageCountOrganization(pages.range(), 3));
         QString debug;
         QDebug(&debug) << KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint() << QString();
-        QCOMPARE(debug.trimmed(), QStringLiteral("min: 25; max: 25; increment: 0 \"\""));
+        QCOMPARE(debug.trimmed(), u"min: 25; max: 25; increment: 0 \"\""_s);
     }
 };
 

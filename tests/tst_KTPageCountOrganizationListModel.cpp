@@ -2,6 +2,7 @@
 
 #include "KTBoundaries.h"
 #include "KTMessageRecorder.h"
+#include "KTTestSupport.h"
 
 #include <QAbstractItemModelTester>
 #include <QSortFilterProxyModel>
@@ -76,8 +77,7 @@ private Q_SLOTS:
             model.setPageOrganization(KTPageCountOrganization(KTIntRange(24, 96), step), false);
         QCOMPARE(proxy.rowCount(), 1);
         // A child index is treated like none, which the tester only expects of a tree.
-        const QRegularExpression expected(
-            QStringLiteral("model->(hasChildren\\(topIndex|parent\\(childIndex)\\)"));
+        const QRegularExpression expected(u"model->(hasChildren\\(topIndex|parent\\(childIndex)\\)"_s);
         for (const KTMessageRecorder::Message &message : recorder.messages())
             QVERIFY2(expected.match(message.text).hasMatch(), qPrintable(message.text));
     }

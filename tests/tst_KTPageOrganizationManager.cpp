@@ -1,6 +1,8 @@
 #include <KTPageOrganizationCalculator.h>
 #include <KTPageOrganizationManager.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 #include <atomic>
@@ -15,7 +17,7 @@ std::atomic<int> calculators {0};
 
 KTProductType type(int number)
 {
-    return KTProductType(QStringLiteral("T%1").arg(number));
+    return KTProductType(u"T%1"_s.arg(number));
 }
 
 /** Gives every type another range. */

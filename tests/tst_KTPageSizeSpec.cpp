@@ -3,6 +3,7 @@
 #include <KTPageSizeSpec.h>
 
 #include "KTBoundaries.h"
+#include "KTTestSupport.h"
 
 #include <QtTest>
 
@@ -125,14 +126,14 @@ private Q_SLOTS:
 
     void dumps()
     {
-        QCOMPARE(debugText(context(8, 2)), QStringLiteral("normalpage right \"\""));
-        QCOMPARE(debugText(context(8, 2), false), QStringLiteral("normalpage right\"\""));
+        QCOMPARE(debugText(context(8, 2)), u"normalpage right \"\""_s);
+        QCOMPARE(debugText(context(8, 2), false), u"normalpage right\"\""_s);
         // No keyword stands for all alignments, hence two blanks.
         const KTPageSizeKey key(KTPageTypeCover, -24);
-        QCOMPARE(debugText(key), QStringLiteral("cover  -24 \"\""));
-        QCOMPARE(debugText(key, false), QStringLiteral("cover  -24 \"\""));
+        QCOMPARE(debugText(key), u"cover  -24 \"\""_s);
+        QCOMPARE(debugText(key, false), u"cover  -24 \"\""_s);
         QCOMPARE(debugText(KTPageSizeSpec(QSize(1, 2), KTMargins()), false),
-                 QStringLiteral("{ usable=QSize(1, 2), 4ScalingQSize(-1, -1)\"\""));
+                 u"{ usable=QSize(1, 2), 4ScalingQSize(-1, -1)\"\""_s);
     }
 };
 

@@ -1,6 +1,8 @@
 #include <KTPageType.h>
 #include <KTSpotColor.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 class tst_KTPageType : public QObject
@@ -40,7 +42,7 @@ private Q_SLOTS:
         QTEST(pageType.encode(), "written");
         QTEST(pageType.encodeCSV(), "bits");
         QCOMPARE(pageType.isValid(), pageType.value() != 0);
-        QCOMPARE(&pageType.expandToKeyword(QStringLiteral("cardfront, duplexcard")), &pageType);
+        QCOMPARE(&pageType.expandToKeyword(u"cardfront, duplexcard"_s), &pageType);
         QCOMPARE(int(pageType.value()), KTPageType(text).value() | 0x1002);
     }
 
@@ -49,13 +51,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("value");
         QTest::addColumn<QString>("allowed");
         // Of: no colour, gloss, gold, silver ink, gloss and silver ink, gloss or gold as one colour.
-        QTest::newRow("normal page") << 0x8 << QStringLiteral("---++-");
-        QTest::newRow("card front") << 0x2 << QStringLiteral("++++++");
-        QTest::newRow("card back") << 0x4 << QStringLiteral("---++-");
-        QTest::newRow("full cover") << 0x20 << QStringLiteral("++++++");
-        QTest::newRow("linen") << 0x100 << QStringLiteral("+-+--+");
-        QTest::newRow("leather") << 0x200 << QStringLiteral("+-+--+");
-        QTest::newRow("linen full cover") << 0x120 << QStringLiteral("+-+--+");
+        QTest::newRow("normal page") << 0x8 << u"---++-"_s;
+        QTest::newRow("card front") << 0x2 << u"++++++"_s;
+        QTest::newRow("card back") << 0x4 << u"---++-"_s;
+        QTest::newRow("full cover") << 0x20 << u"++++++"_s;
+        QTest::newRow("linen") << 0x100 << u"+-+--+"_s;
+        QTest::newRow("leather") << 0x200 << u"+-+--+"_s;
+        QTest::newRow("linen full cover") << 0x120 << u"+-+--+"_s;
     }
     void allowsSpotColors()
     {

@@ -3,6 +3,7 @@
 #include <KTPaperType.h>
 
 #include "KTClassificationTest.h"
+#include "KTTestSupport.h"
 
 #include <QtTest>
 
@@ -76,13 +77,12 @@ private Q_SLOTS:
 
     void namesSurfaces()
     {
-        const KTFotoPaperType matt(QStringLiteral("Matt"));
-        QCOMPARE(matt.encode(), QStringLiteral("2"));
-        QCOMPARE(matt.humanReadableName(), QStringLiteral("Matt"));
-        QCOMPARE(KTFotoPaperType(QStringLiteral("glossy")).humanReadableName(),
-                 QStringLiteral("Gl\u00e4nzend"));
-        QCOMPARE(KTFotoPaperType().humanReadableName(), QStringLiteral("Unbekanntes Fotopapier"));
-        const KTFotoPaperType both(QStringLiteral("1,2"));
+        const KTFotoPaperType matt(u"Matt"_s);
+        QCOMPARE(matt.encode(), u"2"_s);
+        QCOMPARE(matt.humanReadableName(), u"Matt"_s);
+        QCOMPARE(KTFotoPaperType(u"glossy"_s).humanReadableName(), u"Gl\u00e4nzend"_s);
+        QCOMPARE(KTFotoPaperType().humanReadableName(), u"Unbekanntes Fotopapier"_s);
+        const KTFotoPaperType both(u"1,2"_s);
         QVERIFY(both.humanReadableName().isEmpty() && both.encodeForProduction().isEmpty());
         QVERIFY(KTFotoPaperType().encodeForProduction().isEmpty());
     }
@@ -94,7 +94,7 @@ private Q_SLOTS:
                  }),
                  0x38000);
         QVERIFY(KTFotoPaperType::defaultFor(KTArticleClassPhoto).isNull());
-        QVERIFY(KTFotoPaperType::defaultFor(QStringLiteral("foto,book")).isNull());
+        QVERIFY(KTFotoPaperType::defaultFor(u"foto,book"_s).isNull());
     }
 };
 

@@ -1,6 +1,8 @@
 #include <KTPriceClassSet.h>
 #include <KTSpotColor.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 class tst_KTPriceClassSet : public QObject
@@ -17,10 +19,10 @@ private Q_SLOTS:
 
     void isBuiltFromCodes()
     {
-        const QString code = QStringLiteral("FOP1");
+        const QString code = u"FOP1"_s;
         const KTPriceClassSet two {code, code, QString()};
         QCOMPARE(two.size(), 2);
-        QVERIFY(two.contains(code) && two.contains(QStringLiteral("")) && !two.contains(code.toLower()));
+        QVERIFY(two.contains(code) && two.contains(u""_s) && !two.contains(code.toLower()));
         for (const KTPriceClassSet &one :
              {KTPriceClassSet(code), KTPriceClassSet {code}, KTPriceClassSet {KTPriceClass(code)}})
             QCOMPARE(one.toString(), code);
@@ -28,8 +30,8 @@ private Q_SLOTS:
         QString debug;
         QDebug(&debug) << two;
         const bool emptyFirst = two.begin()->isEmpty();
-        QCOMPARE(two.toString(), emptyFirst ? QStringLiteral(",FOP1") : QStringLiteral("FOP1,"));
-        QCOMPARE(debug, emptyFirst ? QStringLiteral("\"\" \"FOP1\" ") : QStringLiteral("\"FOP1\" \"\" "));
+        QCOMPARE(two.toString(), emptyFirst ? u",FOP1"_s : u"FOP1,"_s);
+        QCOMPARE(debug, emptyFirst ? u"\"\" \"FOP1\" "_s : u"\"FOP1\" \"\" "_s);
     }
 
     void groupsKeepTheirGaps_data()

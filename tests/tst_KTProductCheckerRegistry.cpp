@@ -2,6 +2,8 @@
 #include <KTProductChecker.h>
 #include <KTProductCheckerRegistry.h>
 
+#include "KTTestSupport.h"
+
 #include <QtTest>
 
 #include <atomic>
@@ -84,12 +86,12 @@ private Q_SLOTS:
             [&] { registry.registerChecker(nullptr); },
         };
         for (const auto &change : changes) {
-            QCOMPARE(registry.isValid(QStringLiteral("ALB9_30"), FIRST), answer);
+            QCOMPARE(registry.isValid(u"ALB9_30"_s, FIRST), answer);
             answer = !answer;
-            QCOMPARE(registry.isValid(QStringLiteral("ALB9_21"), FIRST), !answer);
-            QCOMPARE(registry.isValidWorker(QStringLiteral("ALB9"), FIRST), answer);
+            QCOMPARE(registry.isValid(u"ALB9_21"_s, FIRST), !answer);
+            QCOMPARE(registry.isValidWorker(u"ALB9"_s, FIRST), answer);
             change();
-            QCOMPARE(registry.isValid(QStringLiteral("ALB9"), FIRST), answer);
+            QCOMPARE(registry.isValid(u"ALB9"_s, FIRST), answer);
         }
     }
 

@@ -37,13 +37,13 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QString &code, const QString &stored) {
             QTest::newRow(name) << code << stored;
         };
-        row("album", QStringLiteral("ALB9_30"), QStringLiteral("ALB9"));
-        row("second family", QStringLiteral("ALBS12xyz"), QStringLiteral("ALBS12"));
-        row("first place", QStringLiteral("A\nXALB3ALBS4\n"), QStringLiteral("ALB3"));
-        row("ASCII digits", QStringLiteral("ALB\u0663_ALB1\u0663"), QStringLiteral("ALB1"));
+        row("album", u"ALB9_30"_s, u"ALB9"_s);
+        row("second family", u"ALBS12xyz"_s, u"ALBS12"_s);
+        row("first place", u"A\nXALB3ALBS4\n"_s, u"ALB3"_s);
+        row("ASCII digits", u"ALB\u0663_ALB1\u0663"_s, u"ALB1"_s);
         for (const char *code : {"", "ALB", "ALBX1", "Alb9_30", " ALB9_30", "XALB9_30"})
             row(code, QString::fromLatin1(code), QString::fromLatin1(code));
-        const QString surrogate = QStringLiteral("ALB9_") + QChar(0xd800);
+        const QString surrogate = u"ALB9_"_s + QChar(0xd800);
         row("lone surrogate", surrogate, surrogate);
     }
     void normalisesCode()
@@ -69,29 +69,28 @@ private Q_SLOTS:
             QVERIFY2(kind(code) == 1, code);
         for (const char *code : {"cal29", " CAL29", "CA", ""})
             QVERIFY2(kind(code) == 0, code);
-        QCOMPARE(KTProductType(QString()).orderTxtName(), QStringLiteral("UNKNOWN"));
+        QCOMPARE(KTProductType(QString()).orderTxtName(), u"UNKNOWN"_s);
     }
 
     void readsElement()
     {
         const auto read = [](const QString &xml) { return KTProductType::fromMcf(KTTest::element(xml)); };
-        QCOMPARE(read(QStringLiteral("<p productname='CAL29'/>")).toString(), QStringLiteral("CAL29"));
-        QCOMPARE(read(QStringLiteral("<p/>")).toString(), QStringLiteral("ALB9"));
-        QVERIFY(read(QStringLiteral("<p productname=''/>")).isUnknown());
+        QCOMPARE(read(u"<p productname='CAL29'/>"_s).toString(), u"CAL29"_s);
+        QCOMPARE(read(u"<p/>"_s).toString(), u"ALB9"_s);
+        QVERIFY(read(u"<p productname=''/>"_s).isUnknown());
     }
 
     void comparesHashBeforeCode()
     {
-        const KTProductType calendar(QStringLiteral("CAL29"));
+        const KTProductType calendar(u"CAL29"_s);
         for (const char *code : {"cal29", "CAL30", "A", "B", "C", "D"}) {
             const KTProductType type(QString::fromLatin1(code));
             QVERIFY2(type != calendar, code);
             QCOMPARE(type < calendar, type.calcHashValue() < calendar.calcHashValue());
         }
-        for (const QString &letters : {QStringLiteral("xX"), QStringLiteral("xy")}) {
+        for (const QString &letters : {u"xX"_s, u"xy"_s}) {
             const QPair<QString, QString> codes = collision(letters);
-            QCOMPARE(KTProductType(codes.first) == KTProductType(codes.second),
-                     letters == QStringLiteral("xX"));
+            QCOMPARE(KTProductType(codes.first) == KTProductType(codes.second), letters == u"xX"_s);
             QCOMPARE(KTProductType(codes.first) < KTProductType(codes.second), codes.first < codes.second);
             QCOMPARE(KTProductType(codes.second) < KTProductType(codes.first), codes.second < codes.first);
         }
@@ -113,14 +112,14 @@ private Q_SLOTS:
     void addsWithoutDoubles()
     {
         const KTMessageRecorder recorder;
-        KTProductTypeList list(QStringLiteral("B,,B,UNKNOWN").split(QLatin1Char(',')));
+        KTProductTypeList list(u"B,,B,UNKNOWN"_s.split(QLatin1Char(',')));
         list.addWithoutDoubles(list);
-        list.addWithoutDoubles(KTProductTypeList::buildFromCSV(QStringLiteral("ALB9_3, B,,ALB9_2,B")));
-        list.addWithoutDoubles(KTProductType(QStringLiteral("UNKNOWN")));
+        list.addWithoutDoubles(KTProductTypeList::buildFromCSV(u"ALB9_3, B,,ALB9_2,B"_s));
+        list.addWithoutDoubles(KTProductType(u"UNKNOWN"_s));
         QVERIFY(recorder.messages().isEmpty());
         QString debug;
         QDebug(&debug) << list;
-        QCOMPARE(debug.trimmed(), QStringLiteral("(\"B\", \"B\", \"UNKNOWN\", \"ALB9\", \" B\")"));
+        QCOMPARE(debug.trimmed(), u"(\"B\", \"B\", \"UNKNOWN\", \"ALB9\", \" B\")"_s);
 
         // Refused first of all, so even where the list has one already.
         list.append(KTProductType(QString()));
@@ -128,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(list.size(), 6);
         QCOMPARE(recorder.messages().size(), 1);
         const KTMessageRecorder::Message message = recorder.messages().first();
-        QCOMPARE(message.text, QStringLiteral("there is no \"UNKNOWN\""));
+        QCOMPARE(message.text, u"there is no \"UNKNOWN\""_s);
         QCOMPARE(QByteArray::number(message.type) + ' ' + message.category + ' ' + message.file + ':'
                      + QByteArray::number(message.line) + ' ' + message.function,
                  QByteArray("1 default libs/KTProductBase/KTProductTypeList:106 "

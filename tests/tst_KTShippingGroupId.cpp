@@ -15,28 +15,28 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("id");
-        QTest::newRow("number") << QStringLiteral("18") << 18;
-        QTest::newRow("blanks around") << QStringLiteral(" 18 ") << 18;
-        QTest::newRow("negative") << QStringLiteral("-5") << -5;
-        QTest::newRow("zero") << QStringLiteral("0") << 0;
-        QTest::newRow("minus one") << QStringLiteral("-1") << -1;
-        QTest::newRow("word") << QStringLiteral("abc") << -1;
-        QTest::newRow("hexadecimal") << QStringLiteral("0x12") << -1;
-        QTest::newRow("fraction") << QStringLiteral("18.5") << -1;
-        QTest::newRow("beyond 32 bits") << QStringLiteral("2147483648") << -1;
-        QTest::newRow("empty") << QStringLiteral("") << -1;
+        QTest::newRow("number") << u"18"_s << 18;
+        QTest::newRow("blanks around") << u" 18 "_s << 18;
+        QTest::newRow("negative") << u"-5"_s << -5;
+        QTest::newRow("zero") << u"0"_s << 0;
+        QTest::newRow("minus one") << u"-1"_s << -1;
+        QTest::newRow("word") << u"abc"_s << -1;
+        QTest::newRow("hexadecimal") << u"0x12"_s << -1;
+        QTest::newRow("fraction") << u"18.5"_s << -1;
+        QTest::newRow("beyond 32 bits") << u"2147483648"_s << -1;
+        QTest::newRow("empty") << u""_s << -1;
     }
     void reads()
     {
         QFETCH(QString, text);
         QFETCH(int, id);
         QCOMPARE(KTShippingGroupId::createFrom(text).id(), id);
-        const QDomElement element = KTTest::element(QStringLiteral("<g id='%1' x='%1'/>").arg(text));
+        const QDomElement element = KTTest::element(u"<g id='%1' x='%1'/>"_s.arg(text));
         QCOMPARE(KTShippingGroupId(element), KTShippingGroupId(id));
         QCOMPARE(KTShippingGroupId(element.attributes()), KTShippingGroupId(id));
-        QCOMPARE(KTShippingGroupId(element, QStringLiteral("x")).id(), id);
-        QCOMPARE(KTShippingGroupId(element.attributes(), QStringLiteral("x")).id(), id);
-        QVERIFY(!KTShippingGroupId(element, QStringLiteral("y")).isValid());
+        QCOMPARE(KTShippingGroupId(element, u"x"_s).id(), id);
+        QCOMPARE(KTShippingGroupId(element.attributes(), u"x"_s).id(), id);
+        QVERIFY(!KTShippingGroupId(element, u"y"_s).isValid());
         QCOMPARE(KTShippingGroupId(id).isValid(), id != -1);
         QCOMPARE(KTShippingGroupId(id).isCombinedTransfer(), id == 0);
     }
@@ -54,9 +54,9 @@ private Q_SLOTS:
 
     void writes()
     {
-        QDomElement element = KTTest::element(QStringLiteral("<g id='3'/>"));
+        QDomElement element = KTTest::element(u"<g id='3'/>"_s);
         KTShippingGroupId().toXML(element);
-        QCOMPARE(element.attribute(KTShippingGroupId::defaultKey()), QStringLiteral("-1"));
+        QCOMPARE(element.attribute(KTShippingGroupId::defaultKey()), u"-1"_s);
         QJsonObject object;
         KTShippingGroupId().toJSON(object);
         QCOMPARE(QJsonDocument(object).toJson(QJsonDocument::Compact), QByteArray("{\"id\":-1}"));
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(written, QByteArray::fromHex("0000000400310038"));
         QString debug;
         QDebug(&debug) << KTShippingGroupId(18) << 3;
-        QCOMPARE(debug, QStringLiteral("\"18\" 3 "));
+        QCOMPARE(debug, u"\"18\" 3 "_s);
     }
 
     void filtersLists()

@@ -2,6 +2,7 @@
 #include <KTSpaceMagnitude.h>
 
 #include "KTMessageRecorder.h"
+#include "KTTestSupport.h"
 
 #include <QFont>
 #include <QtTest>
@@ -36,16 +37,16 @@ class tst_KTSpaceMagnitude : public QObject
 private Q_SLOTS:
     void readsAndWritesKeywords()
     {
-        QCOMPARE(int(KTSpaceMagnitude(QStringLiteral("a4, 50CM2")).value()), 129);
-        QCOMPARE(magnitude(2812).encode(), QStringLiteral("normal"));
+        QCOMPARE(int(KTSpaceMagnitude(u"a4, 50CM2"_s).value()), 129);
+        QCOMPARE(magnitude(2812).encode(), u"normal"_s);
         QCOMPARE(magnitude(2812).encodeCSV(),
-                 QStringLiteral("200cm2, 220cm2, 280cm2, 310cm2, 400cm2, 600cm2, 1200cm2, 2400cm2"));
-        QCOMPARE(magnitude(4095).encode(), QStringLiteral("any"));
-        QCOMPARE(int(KTSpaceMagnitude(QStringLiteral("any")).value()), 4095);
-        QCOMPARE(int(KTSpaceMagnitude(QStringLiteral("xl")).value()), 1280);
+                 u"200cm2, 220cm2, 280cm2, 310cm2, 400cm2, 600cm2, 1200cm2, 2400cm2"_s);
+        QCOMPARE(magnitude(4095).encode(), u"any"_s);
+        QCOMPARE(int(KTSpaceMagnitude(u"any"_s).value()), 4095);
+        QCOMPARE(int(KTSpaceMagnitude(u"xl"_s).value()), 1280);
         QString debug;
-        QDebug(&debug).noquote() << KTSpaceMagnitude(QStringLiteral("A4"));
-        QCOMPARE(debug, QStringLiteral("KTSpaceMagnitude: 600cm2 "));
+        QDebug(&debug).noquote() << KTSpaceMagnitude(u"A4"_s);
+        QCOMPARE(debug, u"KTSpaceMagnitude: 600cm2 "_s);
     }
 
     void classifiesAreas_data()
@@ -123,7 +124,7 @@ private Q_SLOTS:
         QTEST(one.maxReasonableImagesPerPage(), "images");
         QTEST(one.suitableFontSizeInPoints(), "font");
         QTEST(one.optimumFotosPerPage(KTOrientationPortraitSlim), "portrait");
-        QTEST(one.optimumFotosPerPage(KTOrientation(QStringLiteral("portrait,square"))), "portrait");
+        QTEST(one.optimumFotosPerPage(KTOrientation(u"portrait,square"_s)), "portrait");
         QTEST(one.optimumFotosPerPage(KTOrientationSquare), "square");
         QTEST(one.optimumFotosPerPage(KTOrientationLandscape), "square");
     }

@@ -106,11 +106,10 @@ private Q_SLOTS:
     void readsElement()
     {
         QFETCH(QString, children);
-        const QString spineXML = QStringLiteral(
-            "<spine packages_per_block='3' base_width='5' block_width='1' additional_width='0.5'/>");
-        const QString xml = QStringLiteral("<page pages='24' max_pages='96' page_step='2'>%1</page>");
-        const QDomElement element
-            = KTTest::element(xml.arg(children.replace(QStringLiteral("%1"), spineXML)));
+        const QString spineXML
+            = u"<spine packages_per_block='3' base_width='5' block_width='1' additional_width='0.5'/>"_s;
+        const QString xml = u"<page pages='24' max_pages='96' page_step='2'>%1</page>"_s;
+        const QDomElement element = KTTest::element(xml.arg(children.replace(u"%1"_s, spineXML)));
         const KTMessageRecorder recorder;
         const KTSpineConfig spine = KTSpineConfig::createFromProductsXML(element);
         QTEST(spine, "expected");
