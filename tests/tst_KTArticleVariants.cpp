@@ -97,6 +97,11 @@ private Q_SLOTS:
         QTest::newRow("empty key") << u"=black"_s << QString() << QString() << QString();
         QTest::newRow("only separators") << u";=;;"_s << u";:;;"_s << QString() << QString();
         QTest::newRow("placeholder in key") << u"a%2=b"_s << u"ab:b"_s << u"ab:b"_s << u"a%2=b"_s;
+        const QString key = u"%2"_s.repeated(65536);
+        const QString value(65536, QLatin1Char('x'));
+        const QString unfilled = key + QLatin1Char(':') + value;
+        QTest::newRow("explosive key")
+            << key + u"="_s + value << unfilled << unfilled << key + u"="_s + value;
         QTest::newRow("nothing") << QString() << QString() << QString() << QString();
     }
     void writes()

@@ -3,6 +3,7 @@
 #include "KTArticleClass.h"
 
 #include <QList>
+#include <QMetaType>
 
 /** Article classes in the order they were added. */
 class KTPRODUCTBASE_EXPORT KTArticleClassList : public QList<KTArticleClass>
@@ -14,3 +15,5 @@ public:
     /** The elements that share a kind with the given class, in their order. */
     [[nodiscard]] KTArticleClassList filter(const KTArticleClass &articleClass) const;
 };
+
+Q_DECLARE_METATYPE(KTArticleClassList)

@@ -3,6 +3,7 @@
 #include "KTArticleId.h"
 
 #include <QList>
+#include <QMetaType>
 
 /** Article ids in the order they were added; one may stand in it twice. */
 class KTPRODUCTBASE_EXPORT KTArticleIdList : public QList<KTArticleId>
@@ -15,3 +16,5 @@ public:
     KTArticleIdList &operator=(KTArticleIdList &&other) noexcept = default;
     virtual ~KTArticleIdList();
 };
+
+Q_DECLARE_METATYPE(KTArticleIdList)

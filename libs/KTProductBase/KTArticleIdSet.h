@@ -2,6 +2,7 @@
 
 #include "KTArticleId.h"
 
+#include <QMetaType>
 #include <QSet>
 
 /** Article ids without order and without doubles. */
@@ -20,3 +21,5 @@ public:
     /** True when no id of the other set is missing; so for an equal and for an empty one. */
     bool extends(const KTArticleIdSet &other) const;
 };
+
+Q_DECLARE_METATYPE(KTArticleIdSet)

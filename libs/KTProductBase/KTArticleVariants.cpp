@@ -1,5 +1,7 @@
 #include "KTArticleVariants.h"
 
+#include "KTVariantPairs.h"
+
 #include <KTStringLiteral.h>
 #include <KTXMLParser.h>
 
@@ -8,6 +10,11 @@
 #include <QJsonArray>
 
 #include <algorithm>
+
+using KTVariantPairs::filled;
+using KTVariantPairs::forEachPart;
+using KTVariantPairs::ORDER_TXT_SEPARATOR;
+using KTVariantPairs::PAIR_TEMPLATE;
 
 namespace {
 
@@ -22,13 +29,10 @@ constexpr KTStringLiteral KEY_ATTRIBUTE = "key";
 constexpr KTStringLiteral VALUE_ATTRIBUTE = "value";
 
 constexpr KTStringLiteral FORM_PARAMETER_PREFIX = "form_parameter-";
-constexpr KTStringLiteral PAIR_TEMPLATE = "%1:%2";
 constexpr KTStringLiteral DEBUG_PAIR_TEMPLATE = "%1 = %2";
 constexpr KTStringLiteral DEBUG_PAIR_SEPARATOR = "; ";
 constexpr QChar FORM_PARAMETER_SEPARATOR = u':';
 constexpr QChar MCF_SEPARATOR = u',';
-constexpr QChar COMPOUND_SEPARATOR = u';';
-constexpr QChar ORDER_TXT_SEPARATOR = u';';
 
 bool isKeyValueSeparator(QChar character)
 {
@@ -44,24 +48,6 @@ void insertPair(KTArticleVariants *variants, const QString &text, Predicate isSe
         return;
     const int position = static_cast<int>(separator - text.begin());
     variants->insert(text.left(position), text.mid(position + 1));
-}
-
-// Key and value are filled in one after the other on purpose: a "%2" inside the key is filled as well.
-QString filled(const QString &pairTemplate, const QString &key, const QString &value)
-{
-    return pairTemplate.arg(key).arg(value);
-}
-
-/** Calls the function with each key part and its value part, unless the two differ in number. */
-template <typename Function>
-void forEachPart(const QString &key, const QString &value, Function function)
-{
-    const QStringList keyParts = key.split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
-    const QStringList valueParts = value.split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
-    if (keyParts.size() != valueParts.size())
-        return;
-    for (int i = 0; i < keyParts.size(); ++i)
-        function(keyParts.at(i), valueParts.at(i));
 }
 
 } // namespace

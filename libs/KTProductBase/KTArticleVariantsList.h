@@ -3,6 +3,7 @@
 #include "KTArticleVariants.h"
 
 #include <QList>
+#include <QMetaType>
 
 /** Sets of options in the order they were added. */
 class KTPRODUCTBASE_EXPORT KTArticleVariantsList : public QList<KTArticleVariants>
@@ -18,3 +19,5 @@ public:
     /** True when some element contains the options, see KTArticleVariants::contains(). */
     bool containsBoxStyle(const KTArticleVariants &variants) const;
 };
+
+Q_DECLARE_METATYPE(KTArticleVariantsList)

@@ -1,20 +1,27 @@
 #include "KTConfiguredArticleVariantList.h"
 
+#include "KTVariantPairs.h"
+
 #include <KTStringLiteral.h>
 
 #include <QDebug>
 #include <QDomElement>
+#include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr KTStringLiteral FORMS_ELEMENT = "forms";
 constexpr KTStringLiteral FORM_ELEMENT = "form";
-constexpr KTStringLiteral ORDER_TXT_TEMPLATE = "%1:%2";
 constexpr QChar CSV_SEPARATOR = u',';
-constexpr QChar COMPOUND_SEPARATOR = u';';
-constexpr QChar ORDER_TXT_SEPARATOR = u';';
+
+/** To look many options up in. */
+QSet<KTConfiguredArticleVariant> setOf(const KTConfiguredArticleVariantList &variants)
+{
+    return QSet<KTConfiguredArticleVariant>(variants.begin(), variants.end());
+}
 
 bool matches(const KTConfiguredArticleVariant &variant, const KTArticleVariants &chosen)
 {
@@ -54,12 +61,10 @@ KTConfiguredArticleVariantList
 KTConfiguredArticleVariantList::createFromReduced(const KTConfiguredArticleVariant &variant)
 {
     KTConfiguredArticleVariantList variants;
-    const QStringList keys = variant.key().split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
-    const QStringList values = variant.value().split(COMPOUND_SEPARATOR, Qt::SkipEmptyParts);
-    if (keys.size() != values.size())
-        return variants;
-    for (int i = 0; i < keys.size(); ++i)
-        variants.append(KTConfiguredArticleVariant(keys.at(i), values.at(i)));
+    KTVariantPairs::forEachPart(variant.key(), variant.value(),
+                                [&variants](const QString &key, const QString &value) {
+                                    variants.append(KTConfiguredArticleVariant(key, value));
+                                });
     return variants;
 }
 
@@ -95,23 +100,21 @@ bool KTConfiguredArticleVariantList::contains(const KTConfiguredArticleVariant &
 
 bool KTConfiguredArticleVariantList::contains(const KTConfiguredArticleVariantList &other) const
 {
-    return std::all_of(other.begin(), other.end(),
-                       [this](const KTConfiguredArticleVariant &variant) { return contains(variant); });
+    return setOf(*this).contains(setOf(other));
 }
 
 bool KTConfiguredArticleVariantList::contains(const KTArticleVariants &chosen) const
 {
+    const QSet<KTConfiguredArticleVariant> offered = setOf(*this);
     const QStringList keys = chosen.keys();
-    return std::all_of(keys.begin(), keys.end(), [this, &chosen](const QString &key) {
-        return contains(KTConfiguredArticleVariant(key, chosen.value(key, QString())));
+    return std::all_of(keys.begin(), keys.end(), [&](const QString &key) {
+        return offered.contains(KTConfiguredArticleVariant(key, chosen.value(key, QString())));
     });
 }
 
 bool KTConfiguredArticleVariantList::containsAtLeastOne(const KTConfiguredArticleVariantList &other) const
 {
-    return isEmpty() || other.isEmpty()
-        || std::any_of(other.begin(), other.end(),
-                       [this](const KTConfiguredArticleVariant &variant) { return contains(variant); });
+    return isEmpty() || other.isEmpty() || setOf(*this).intersects(setOf(other));
 }
 
 KTConfiguredArticleVariant KTConfiguredArticleVariantList::variant(const KTArticleVariants &chosen) const
@@ -188,11 +191,10 @@ QString KTConfiguredArticleVariantList::joinForOrderTxt() const
 {
     QStringList pairs;
     for (const KTConfiguredArticleVariant &variant : *this) {
-        // Filled in one after the other, as KTArticleVariants::toOrderTxt() does.
         for (const KTConfiguredArticleVariant &part : createForProduction(variant))
-            pairs.append(QString(ORDER_TXT_TEMPLATE).arg(part.key()).arg(part.value()));
+            pairs.append(KTVariantPairs::filled(KTVariantPairs::PAIR_TEMPLATE, part.key(), part.value()));
     }
-    return pairs.join(ORDER_TXT_SEPARATOR);
+    return pairs.join(KTVariantPairs::ORDER_TXT_SEPARATOR);
 }
 
 void KTConfiguredArticleVariantList::intersect(const KTConfiguredArticleVariantList &other,
@@ -201,8 +203,9 @@ void KTConfiguredArticleVariantList::intersect(const KTConfiguredArticleVariantL
     if (isEmpty() && adoptWhenEmpty)
         *this = other;
     else
-        *this = filtered(
-            [&other](const KTConfiguredArticleVariant &variant) { return other.contains(variant); });
+        *this = filtered([offered = setOf(other)](const KTConfiguredArticleVariant &variant) {
+            return offered.contains(variant);
+        });
 }
 
 template <typename Predicate>

@@ -159,6 +159,7 @@ KTCoverType::KTCoverType(const QString &text)
 
 KTCoverType KTCoverType::createFromHumanReadable(const QString &name)
 {
+    // Latin-1, unlike elsewhere: callers hand over source texts, and all of these are ASCII.
     return bindingNames()->keyOf(QCoreApplication::translate("KTBinding", name.toLatin1().constData()));
 }
 

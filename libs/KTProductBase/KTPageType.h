@@ -65,7 +65,7 @@ public:
 
     /**
      * True when the page may be finished with the spot colours. Linen and leather take any but gloss and
-     * silver ink; covers and card fronts take all of them, other pages silver ink alone.
+     * silver ink; full covers and card fronts take every list, other pages one that has silver ink in it.
      */
     bool isSpotColorAllowed(const QList<KTSpotColor> &colors) const;
 

@@ -3,6 +3,7 @@
 #include "KTShippingGroupId.h"
 
 #include <QList>
+#include <QMetaType>
 
 /** Shipping groups in the order they were added; one may stand in it twice. */
 class KTPRODUCTBASE_EXPORT KTShippingGroupIdList : public QList<KTShippingGroupId>
@@ -21,3 +22,5 @@ public:
     /** With `equal` the elements that are the given group, without it all others; in their order. */
     [[nodiscard]] KTShippingGroupIdList filter(const KTShippingGroupId &groupId, bool equal) const;
 };
+
+Q_DECLARE_METATYPE(KTShippingGroupIdList)

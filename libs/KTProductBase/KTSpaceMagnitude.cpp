@@ -144,6 +144,7 @@ KTSpaceMagnitude KTSpaceMagnitude::estimateByAreaSizes(double areaSizes)
 
 KTSpaceMagnitude KTSpaceMagnitude::createFromHumanReadable(const QString &name)
 {
+    // Latin-1, unlike elsewhere: callers hand over source texts, and all of these are ASCII.
     return names()->keyOf(QCoreApplication::translate("KTSpaceMagnitude", name.toLatin1().constData()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "KTKeywordMap.h"
 
+#include <QByteArray>
 #include <QDebug>
 #include <QList>
 #include <QMessageLogger>
@@ -60,7 +61,7 @@ public:
     /** Each bit of the value, lowest first; empty for a value below 1. */
     QList<ENUM> splitToBitsSorted(ENUM value) const;
 
-    /** Everything that can be read, in lower case, in the order of insertion. */
+    /** Everything that can be read, in lower case, in no stated order. */
     QStringList allKnownKeywords() const;
     /** Every keyword that reads as exactly this value, in lower case, sorted. */
     QStringList allPossibleKeywordsOneElement(ENUM value) const;

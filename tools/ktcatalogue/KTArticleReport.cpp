@@ -7,6 +7,7 @@
 #include <KTDistanceUnit.h>
 
 #include <QJsonArray>
+#include <QMap>
 
 #include <algorithm>
 
@@ -16,6 +17,7 @@ namespace {
 
 const QString INDENT = QStringLiteral("  ");
 constexpr int LABEL_WIDTH = 16;
+constexpr qint64 MOST_BOX_STYLES = 1000;
 constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 
 QString line(const QString &label, const QString &text)
@@ -168,9 +170,12 @@ QStringList optionLines(const KTConfiguredArticleVariantList &options)
     const int nameWidth
         = widest(options, [](const KTConfiguredArticleVariant &option) { return option.visibleName(); });
     QStringList lines {line(QStringLiteral("options"), QString())};
-    for (const QString &key : options.keys()) {
-        const KTConfiguredArticleVariantList ofKey = options.filter(key);
-        lines.append(INDENT + line(visible(key), visible(ofKey.constFirst().keyName())));
+    QMap<QString, KTConfiguredArticleVariantList> byKey;
+    for (const KTConfiguredArticleVariant &option : options)
+        byKey[option.key()].append(option);
+    for (auto entry = byKey.cbegin(); entry != byKey.cend(); ++entry) {
+        const KTConfiguredArticleVariantList &ofKey = entry.value();
+        lines.append(INDENT + line(visible(entry.key()), visible(ofKey.constFirst().keyName())));
         for (const KTConfiguredArticleVariant &option : ofKey) {
             QStringList flags;
             if (option.isDefault())
@@ -290,6 +295,14 @@ QJsonArray barcodesJson(const KTArticleModel &article)
     return barcodes;
 }
 
+/** The box styles, unless there are too many combinations to be read, or even to be listed. */
+KTArticleVariantsList readableBoxStyles(const KTConfiguredArticleVariantList &options)
+{
+    const qint64 boxes = options.filter(KTArticleVariants::pictureBoxKeyName()).size();
+    const qint64 photos = options.filter(KTArticleVariants::coverFotoKeyName()).size();
+    return boxes * photos > MOST_BOX_STYLES ? KTArticleVariantsList() : options.possibleBoxStyles();
+}
+
 } // namespace
 
 QString KTArticleReport::toText(const KTArticleModel &article, const QList<int> &pageCounts)
@@ -304,7 +317,7 @@ QString KTArticleReport::toText(const KTArticleModel &article, const QList<int> 
     const KTArticleVariants defaults = article.options.defaultVariants();
     if (defaults.isValid())
         lines.append(line(QStringLiteral("default choice"), visible(KTVariantsText::mcf(defaults))));
-    for (const KTArticleVariants &style : article.options.possibleBoxStyles())
+    for (const KTArticleVariants &style : readableBoxStyles(article.options))
         lines.append(line(QStringLiteral("box style"), visible(KTVariantsText::mcf(style))));
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
@@ -315,7 +328,7 @@ QJsonObject KTArticleReport::toJSON(const KTArticleModel &article, const QList<i
     for (const KTConfiguredArticleVariant &option : article.options)
         options.append(optionJson(option));
     QJsonArray boxStyles;
-    for (const KTArticleVariants &style : article.options.possibleBoxStyles())
+    for (const KTArticleVariants &style : readableBoxStyles(article.options))
         boxStyles.append(KTVariantsText::json(style));
 
     QJsonObject object {
