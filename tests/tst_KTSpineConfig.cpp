@@ -134,6 +134,8 @@ private Q_SLOTS:
         const KTSpineConfig moved = std::move(copy);
         copy = moved;
         QVERIFY(copy == shared && sizeof(copy) == sizeof(void *));
+        QCOMPARE(config(1, 2.5, 3, 4).dump(),
+                 QStringLiteral("min: 24; max: 96; increment: 2; packages per block: 4; widths: 1 2.5 3"));
     }
 
     void choosesTheFontSize_data()

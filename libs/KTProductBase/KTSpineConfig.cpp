@@ -2,6 +2,8 @@
 
 #include "KTSpineConfigImpl.h"
 
+#include <QDebug>
+
 KTSpineConfig::KTSpineConfig()
     : KTSpineConfig(new KTSpineConfigImpl)
 {
@@ -61,7 +63,19 @@ int KTSpineConfig::coverReduceSize() const
     return myImpl->coverReduceSize();
 }
 
+QString KTSpineConfig::dump() const
+{
+    return myImpl->dump();
+}
+
 bool KTSpineConfig::operator==(const KTSpineConfig &other) const
 {
     return myImpl == other.myImpl || *myImpl == *other.myImpl;
+}
+
+QDebug operator<<(QDebug stream, const KTSpineConfig &config)
+{
+    const QDebugStateSaver saver(stream);
+    stream.noquote() << config.dump();
+    return stream;
 }

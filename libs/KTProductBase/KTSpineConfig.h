@@ -6,12 +6,12 @@
 
 #include <QExplicitlySharedDataPointer>
 #include <QMetaType>
+#include <QString>
 
 class KTPageCountOrganization;
 class KTSpineConfigImpl;
 class QDebug;
 class QDomElement;
-class QString;
 
 /**
  * How wide the spine of a bound product is: it grows by a block of width for every so many page packages.
@@ -55,6 +55,9 @@ public:
     /** The additional width of one side in whole layout units, truncated. */
     int coverReduceSize() const;
 
+    /** The organisation's dump(), the packages per block, and the three widths in layout units. */
+    [[nodiscard]] QString dump() const;
+
     /**
      * True when all fields are equal. Base and block width may differ by rounding, since they are sums in
      * some catalogues; the additional width must be the same number.
@@ -70,3 +73,5 @@ private:
 
 Q_DECLARE_TYPEINFO(KTSpineConfig, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTSpineConfig)
+/** Writes dump() without quotes. */
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTSpineConfig &config);

@@ -115,6 +115,16 @@ int KTSpineConfigImpl::coverReduceSize() const
     return KTArithmetic::truncated(myAdditionalWidth.layoutUnits());
 }
 
+QString KTSpineConfigImpl::dump() const
+{
+    return QStringLiteral("%1; packages per block: %2; widths: %3 %4 %5")
+        .arg(myPageOrganization.dump())
+        .arg(myPackagesPerBlock)
+        .arg(myBaseWidth.layoutUnits())
+        .arg(myBlockWidth.layoutUnits())
+        .arg(myAdditionalWidth.layoutUnits());
+}
+
 bool KTSpineConfigImpl::operator==(const KTSpineConfigImpl &other) const
 {
     return myPageOrganization == other.myPageOrganization && myPackagesPerBlock == other.myPackagesPerBlock

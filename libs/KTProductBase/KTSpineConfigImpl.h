@@ -5,9 +5,9 @@
 #include <KTDistance.h>
 
 #include <QSharedData>
+#include <QString>
 
 class QDomElement;
-class QString;
 
 /** The data that copies of a KTSpineConfig share; see there for the operations of the same name. */
 class KTPRODUCTBASE_EXPORT KTSpineConfigImpl : public QSharedData
@@ -38,6 +38,8 @@ public:
     int spineMaxFontHeigth(unsigned int pages, const QString &fontFamily) const;
     KTDistance additionalSpineWidth() const { return myAdditionalWidth; }
     int coverReduceSize() const;
+
+    [[nodiscard]] QString dump() const;
 
     bool operator==(const KTSpineConfigImpl &other) const;
     bool operator!=(const KTSpineConfigImpl &other) const { return !(*this == other); }
