@@ -29,7 +29,7 @@ QString libraryFolder()
 
 QString defaultResourceRoot()
 {
-    const QString root = qEnvironmentVariable(ROOT_VARIABLE);
+    QString root = qEnvironmentVariable(ROOT_VARIABLE);
     if (!root.isEmpty())
         return root;
     const QDir folder(libraryFolder());

@@ -13,7 +13,6 @@
 
 #include <limits>
 
-using KTArithmetic::saturated;
 using KTArithmetic::truncated;
 
 namespace {
