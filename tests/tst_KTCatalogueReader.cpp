@@ -122,15 +122,17 @@ private Q_SLOTS:
         const QDomElement form = article.element().firstChildElement(u"forms"_s).firstChildElement(u"form"_s);
         QCOMPARE(form.attribute(u"value"_s), u"b"_s);
         QStringList positions;
-        for (const KTTagPositions &tag : article.tags) {
-            positions.append(u"%1:%2"_s.arg(tag.tag.line).arg(tag.tag.column));
-            for (const KTFilePosition &attribute : tag.attributes)
-                positions.append(u"@%1:%2"_s.arg(attribute.line).arg(attribute.column));
+        for (const KTCatalogueArticle::Element &element : article.elements()) {
+            positions.append(u"%1:%2"_s.arg(element.position.line).arg(element.position.column));
+            for (int i = 0; i < element.attributeCount; ++i) {
+                const KTFilePosition position = article.attributes().at(element.firstAttribute + i).position;
+                positions.append(u"@%1:%2"_s.arg(position.line).arg(position.column));
+            }
         }
         QCOMPARE(positions.join(QLatin1Char(' ')), u"2:2 @2:11 @2:18 @2:25 3:3 3:10 @4:4 @4:12"_s);
         QVERIFY(reader.readNext(&article));
-        QCOMPARE(article.tags.size(), 1);
-        QCOMPARE(article.tags.constFirst().tag.column, 43);
+        QCOMPARE(article.elements().size(), 1);
+        QCOMPARE(article.elements().constFirst().position.column, 43);
     }
 };
 

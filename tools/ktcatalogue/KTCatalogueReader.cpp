@@ -19,18 +19,33 @@ KTCatalogueReader::KTCatalogueReader(QIODevice *device)
 
 bool KTCatalogueReader::readNext(KTCatalogueArticle *article)
 {
+    while (readNextOrOther(article)) {
+        if (myIsArticle)
+            return true;
+    }
+    return false;
+}
+
+bool KTCatalogueReader::readNextOrOther(KTCatalogueArticle *article)
+{
+    myIsArticle = false;
     for (;;) {
         switch (nextToken()) {
         case QXmlStreamReader::StartElement:
-            if (myDepth == ARTICLE_DEPTH && myReader.qualifiedName() == ARTICLE_ELEMENT)
-                return readArticle(article);
             if (myDepth == 1 && myReader.qualifiedName() != CATALOGUE_ELEMENT) {
-                fail(QStringLiteral("the root element is '%1', not '%2'")
+                fail(KTCatalogueErrorKind::NotWellFormed,
+                     QStringLiteral("the root element is '%1', not '%2'")
                          .arg(myReader.qualifiedName().toString(), CATALOGUE_ELEMENT),
-                     myTag.tag);
+                     myTag);
                 return false;
             }
-            break;
+            if (myDepth > ARTICLE_DEPTH)
+                break;
+            article->clear();
+            if (myDepth == ARTICLE_DEPTH && myReader.qualifiedName() == ARTICLE_ELEMENT)
+                return readArticle(article);
+            appendElement(article, -1);
+            return true;
         case QXmlStreamReader::EndDocument:
         case QXmlStreamReader::Invalid:
             return false;
@@ -42,23 +57,30 @@ bool KTCatalogueReader::readNext(KTCatalogueArticle *article)
 
 bool KTCatalogueReader::readArticle(KTCatalogueArticle *article)
 {
-    article->document = QDomDocument();
-    article->tags.clear();
-    QDomNode parent;
+    int parent = -1;
     for (;;) {
         if (myReader.tokenType() == QXmlStreamReader::StartElement) {
-            QDomElement element = article->document.createElement(myReader.qualifiedName().toString());
-            for (const QXmlStreamAttribute &attribute : myReader.attributes())
-                element.setAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-            parent = (parent.isNull() ? article->document : parent).appendChild(element);
-            article->tags.append(myTag);
+            appendElement(article, parent);
+            parent = article->elements().size() - 1;
         } else if (myReader.tokenType() == QXmlStreamReader::EndElement) {
-            if (myDepth < ARTICLE_DEPTH)
+            parent = article->elements().at(parent).parent;
+            if (parent < 0) {
+                myIsArticle = true;
                 return true;
-            parent = parent.parentNode();
+            }
         }
         if (nextToken() == QXmlStreamReader::Invalid)
             return false;
+    }
+}
+
+void KTCatalogueReader::appendElement(KTCatalogueArticle *article, int parent)
+{
+    article->appendElement(myReader.qualifiedName(), myTag, parent);
+    const QXmlStreamAttributes attributes = myReader.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        article->appendAttribute(attributes.at(i).qualifiedName(), attributes.at(i).value(),
+                                 myAttributes.value(i, myTag));
     }
 }
 
@@ -73,15 +95,16 @@ QXmlStreamReader::TokenType KTCatalogueReader::nextToken()
     case QXmlStreamReader::StartDocument: {
         const QStringRef encoding = myReader.documentEncoding();
         if (!encoding.isEmpty() && encoding.compare(ENCODING, Qt::CaseInsensitive) != 0)
-            fail(QStringLiteral("the encoding is '%1', not UTF-8").arg(encoding.toString()),
+            fail(KTCatalogueErrorKind::NotWellFormed,
+                 QStringLiteral("the encoding is '%1', not UTF-8").arg(encoding.toString()),
                  readerPosition());
         break;
     }
     case QXmlStreamReader::StartElement:
-        myTag = myScanner.takeTag();
+        myTag = myScanner.takeTag(&myAttributes);
         if (++myDepth > MAXIMUM_DEPTH)
-            fail(QStringLiteral("limit exceeded: more than %1 levels of elements").arg(MAXIMUM_DEPTH),
-                 myTag.tag);
+            fail(KTCatalogueErrorKind::LimitExceeded,
+                 QStringLiteral("limit exceeded: more than %1 levels of elements").arg(MAXIMUM_DEPTH), myTag);
         break;
     case QXmlStreamReader::EndElement:
         --myDepth;
@@ -95,8 +118,9 @@ QXmlStreamReader::TokenType KTCatalogueReader::nextToken()
     return myErrorText.isEmpty() ? myReader.tokenType() : QXmlStreamReader::Invalid;
 }
 
-void KTCatalogueReader::fail(const QString &text, const KTFilePosition &position)
+void KTCatalogueReader::fail(KTCatalogueErrorKind kind, const QString &text, const KTFilePosition &position)
 {
+    myErrorKind = kind;
     myErrorText = text;
     myErrorPosition = position;
 }
@@ -105,11 +129,11 @@ void KTCatalogueReader::fail(const QString &text, const KTFilePosition &position
 void KTCatalogueReader::failAsReader()
 {
     if (!myScanner.refusal().isEmpty())
-        fail(myScanner.refusal(), myScanner.refusalPosition());
+        fail(myScanner.refusalKind(), myScanner.refusal(), myScanner.refusalPosition());
     else if (myScanner.hasReadError())
-        fail(QStringLiteral("the file cannot be read"), readerPosition());
+        fail(KTCatalogueErrorKind::Unreadable, QStringLiteral("the file cannot be read"), readerPosition());
     else
-        fail(myReader.errorString(), readerPosition());
+        fail(KTCatalogueErrorKind::NotWellFormed, myReader.errorString(), readerPosition());
 }
 
 KTFilePosition KTCatalogueReader::readerPosition() const

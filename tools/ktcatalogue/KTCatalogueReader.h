@@ -1,21 +1,8 @@
 #pragma once
 
-#include "KTCatalogueScanner.h"
+#include "KTCatalogueArticle.h"
 
-#include <QDomDocument>
-#include <QDomElement>
 #include <QXmlStreamReader>
-
-/** One article of a catalogue: a document of its own, and where each start tag of it stands in the file. */
-struct KTCatalogueArticle
-{
-    QDomElement element() const { return document.documentElement(); }
-
-    /** The elements with their attributes, without texts: articles have none. */
-    QDomDocument document;
-    /** In document order. */
-    QVector<KTTagPositions> tags;
-};
 
 /**
  * Reads a catalogue one article at a time, so that memory does not grow with the file.
@@ -34,7 +21,17 @@ public:
 
     /** Reads the next article; false at the end and after an error. */
     bool readNext(KTCatalogueArticle *article);
+    /**
+     * Reads the next article or the bare start tag of the next element around the articles: of the root
+     * element, which comes first, or of one of its other children. False at the end and after an error.
+     */
+    bool readNextOrOther(KTCatalogueArticle *article);
+    /** True when a whole article was read last. */
+    bool isArticle() const { return myIsArticle; }
+    /** True when the start tag of the root element was read last. */
+    bool isRoot() const { return myDepth == 1 && !myIsArticle; }
 
+    KTCatalogueErrorKind errorKind() const { return myErrorKind; }
     /** What is wrong with the file; empty while nothing is. */
     QString errorText() const { return myErrorText; }
     KTFilePosition errorPosition() const { return myErrorPosition; }
@@ -42,15 +39,19 @@ public:
 private:
     QXmlStreamReader::TokenType nextToken();
     bool readArticle(KTCatalogueArticle *article);
-    void fail(const QString &text, const KTFilePosition &position);
+    void appendElement(KTCatalogueArticle *article, int parent);
+    void fail(KTCatalogueErrorKind kind, const QString &text, const KTFilePosition &position);
     void failAsReader();
     KTFilePosition readerPosition() const;
 
     KTCatalogueScanner myScanner;
     QXmlStreamReader myReader;
+    KTCatalogueErrorKind myErrorKind = KTCatalogueErrorKind::None;
     QString myErrorText;
     KTFilePosition myErrorPosition;
     /** Of the start tag read last. */
-    KTTagPositions myTag;
+    KTFilePosition myTag;
+    QVector<KTFilePosition> myAttributes;
     int myDepth = 0;
+    bool myIsArticle = false;
 };

@@ -5,8 +5,6 @@
 #include <QString>
 #include <QVector>
 
-#include <deque>
-
 /** A place in a file; lines and columns count from 1, columns in characters. */
 struct KTFilePosition
 {
@@ -14,11 +12,13 @@ struct KTFilePosition
     int column = 1;
 };
 
-/** Where a start tag and each of its attributes begin. */
-struct KTTagPositions
-{
-    KTFilePosition tag;
-    QVector<KTFilePosition> attributes;
+/** Why a file is no catalogue. */
+enum class KTCatalogueErrorKind {
+    None,
+    /** It cannot be opened or read to its end. */
+    Unreadable,
+    NotWellFormed,
+    LimitExceeded,
 };
 
 /**
@@ -44,13 +44,17 @@ public:
 
     /** Why the flow was stopped; empty while it was not. */
     QString refusal() const { return myRefusal; }
+    KTCatalogueErrorKind refusalKind() const { return myRefusalKind; }
     /** Where the flow was stopped. */
     KTFilePosition refusalPosition() const { return myTokenPosition; }
     /** True when reading the source itself failed. */
     bool hasReadError() const { return myReadError; }
 
-    /** Hands out the positions of the next start tag, in document order. */
-    KTTagPositions takeTag();
+    /**
+     * Hands out where the next start tag begins, in document order; where its attributes begin replaces the
+     * content of the list.
+     */
+    KTFilePosition takeTag(QVector<KTFilePosition> *attributes);
 
 protected:
     qint64 readData(char *data, qint64 maximum) override;
@@ -72,23 +76,33 @@ private:
         Value,
     };
 
+    /** Where a start tag or an attribute begins. */
+    struct Mark
+    {
+        KTFilePosition position;
+        bool isTag;
+    };
+
+    qint64 skipPlain(const char *data, qint64 length);
     void scan(char byte);
     void scanText(char byte);
     void scanDeclaration(char byte);
     void scanTag(char byte);
     void enter(State state);
     void countTowardsLimit();
-    void finishTag();
-    void refuse(const QString &reason);
+    void refuse(KTCatalogueErrorKind kind, const QString &reason);
     void advance(char byte);
 
     QIODevice *mySource;
     State myState = State::Text;
     KTFilePosition myPosition;
     KTFilePosition myTokenPosition;
-    KTTagPositions myTag;
-    std::deque<KTTagPositions> myTags;
+    /** Of the start tags that were not handed out yet, from myNextMark on. */
+    QVector<Mark> myMarks;
+    int myNextMark = 0;
+    int myAttributes = 0;
     QString myRefusal;
+    KTCatalogueErrorKind myRefusalKind = KTCatalogueErrorKind::None;
     /** The last bytes of the markup, to recognise its opening and its end by. */
     QByteArray myRecent;
     bool myAtStart = true;
