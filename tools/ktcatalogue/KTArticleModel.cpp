@@ -2,7 +2,6 @@
 
 #include <KTArithmetic.h>
 #include <KTArticleClass.h>
-#include <KTDistanceUnit.h>
 #include <KTXMLParser.h>
 
 #include <QDomElement>
@@ -20,13 +19,6 @@ QString text(const QDomElement &element, const QString &name)
     return KTXMLParser::attribute(element, name, QString(), true);
 }
 
-/** The unit of an element's lengths; millimetres where none is given. */
-KTDistanceUnit unitOf(const QDomElement &element)
-{
-    const QString unit = text(element, UNITS_ATTRIBUTE);
-    return KTDistanceUnit(unit.isEmpty() ? DEFAULT_UNIT : unit);
-}
-
 /** A length in whole layout units. */
 int length(const QDomElement &element, const QString &name, double defaultValue, const KTDistanceUnit &unit)
 {
@@ -36,7 +28,7 @@ int length(const QDomElement &element, const QString &name, double defaultValue,
 
 KTArticleModel::Page readPage(const QDomElement &element)
 {
-    const KTDistanceUnit unit = unitOf(element);
+    const KTDistanceUnit unit = KTArticleModel::readUnit(element);
     const auto read = [&](const char *name) { return length(element, QString::fromLatin1(name), 0.0, unit); };
     const KTMargins bleed(read("bleed_top"), read("bleed_bottom"), read("bleed_left"), read("bleed_right"));
     KTPageSizeSpec size(QSize(read("width"), read("height")), bleed);
@@ -45,15 +37,6 @@ KTArticleModel::Page readPage(const QDomElement &element)
     return {KTPageContext(KTPageType(text(element, QStringLiteral("type"))),
                           KTPageAlignment(text(element, QStringLiteral("alignment")))),
             size};
-}
-
-KTPageCountOrganization readPageCounts(const QDomElement &article, const KTArticleId &articleId)
-{
-    if (articleId.isAdventCalendarWithDoorBackPrint())
-        return KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint();
-    if (KTArticleClass(text(article, ARTICLE_CLASS_ATTRIBUTE)).matches(KTArticleClassPictureBox))
-        return KTPageCountOrganization::createFromProductsXMLForPictureBox(article);
-    return KTPageCountOrganization::createFromProductsXML(article);
 }
 
 } // namespace
@@ -65,7 +48,7 @@ KTArticleModel::KTArticleModel(const QDomElement &article)
     , priceClass(text(article, QStringLiteral("price_class")))
     , shippingGroup(article, QStringLiteral("shipping_group"))
     , options(article)
-    , pageCounts(readPageCounts(article, articleId))
+    , pageCounts(readPageCounts(article))
     , spine(KTSpineConfig::createFromProductsXML(article))
     , hasSpine(!article.firstChildElement(QStringLiteral("composition"))
                     .firstChildElement(QStringLiteral("spine"))
@@ -81,7 +64,22 @@ KTArticleModel::KTArticleModel(const QDomElement &article)
         pages.append(readPage(page));
     }
     const QDomElement barcodeParent = article.firstChildElement(QStringLiteral("barcodes"));
-    barcodes = KTBarcodeDefinitionList::createFromProductsXML(barcodeParent, unitOf(barcodeParent));
+    barcodes = KTBarcodeDefinitionList::createFromProductsXML(barcodeParent, readUnit(barcodeParent));
+}
+
+KTPageCountOrganization KTArticleModel::readPageCounts(const QDomElement &article)
+{
+    if (KTArticleId::findId(article).isAdventCalendarWithDoorBackPrint())
+        return KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint();
+    if (KTArticleClass(text(article, ARTICLE_CLASS_ATTRIBUTE)).matches(KTArticleClassPictureBox))
+        return KTPageCountOrganization::createFromProductsXMLForPictureBox(article);
+    return KTPageCountOrganization::createFromProductsXML(article);
+}
+
+KTDistanceUnit KTArticleModel::readUnit(const QDomElement &element)
+{
+    const QString unit = text(element, UNITS_ATTRIBUTE);
+    return KTDistanceUnit(unit.isEmpty() ? DEFAULT_UNIT : unit);
 }
 
 QPair<int, int> KTArticleModel::validPagesAround(int wish) const

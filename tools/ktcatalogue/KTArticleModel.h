@@ -5,6 +5,7 @@
 #include <KTArticleId.h>
 #include <KTBarcodeDefinitionList.h>
 #include <KTConfiguredArticleVariantList.h>
+#include <KTDistanceUnit.h>
 #include <KTPageContext.h>
 #include <KTPageCountOrganization.h>
 #include <KTPageSizeSpec.h>
@@ -29,6 +30,11 @@ struct KTArticleModel
 
     /** Reads everything; what is missing or malformed takes the library's defaults. */
     explicit KTArticleModel(const QDomElement &article);
+
+    /** The page counts of the article, which are read in the way of its kind. */
+    [[nodiscard]] static KTPageCountOrganization readPageCounts(const QDomElement &article);
+    /** The unit of an element's lengths; millimetres where none is given. */
+    [[nodiscard]] static KTDistanceUnit readUnit(const QDomElement &element);
 
     /** The valid page counts next below and above the wish; twice the wish if it is one itself. */
     QPair<int, int> validPagesAround(int pages) const;

@@ -12,8 +12,10 @@ namespace {
 const QString HELP_OPTION = QStringLiteral("help");
 }
 
-KTCommandLine::KTCommandLine(const QString &command, const QString &description, const QString &example)
+KTCommandLine::KTCommandLine(const QString &command, const QString &description, const QString &example,
+                             Files files)
     : myCommand(command)
+    , myFiles(files)
 {
     myParser.setApplicationDescription(
         QStringLiteral("%1\n\nExample:\n  %2 %3 %4")
@@ -22,9 +24,9 @@ KTCommandLine::KTCommandLine(const QString &command, const QString &description,
         {QStringLiteral("h"), HELP_OPTION},
         QStringLiteral("Displays this help.")
     });
-    myParser.addPositionalArgument(QStringLiteral("FILE"),
-                                   QStringLiteral("The catalogue; - for standard input."),
-                                   command + QStringLiteral(" FILE"));
+    myParser.addPositionalArgument(
+        QStringLiteral("FILE"), QStringLiteral("The catalogue; - for standard input."),
+        command + (files == Files::One ? QStringLiteral(" FILE") : QStringLiteral(" [FILE...]")));
 }
 
 std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
@@ -33,7 +35,7 @@ std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
         return failUsage(myParser.errorText());
     if (myParser.isSet(HELP_OPTION))
         return print(myParser.helpText());
-    if (myParser.positionalArguments().size() != 2)
+    if (myFiles == Files::One && myParser.positionalArguments().size() != 2)
         return failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
     return std::nullopt;
 }
@@ -41,6 +43,11 @@ std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
 QString KTCommandLine::fileName() const
 {
     return myParser.positionalArguments().at(1);
+}
+
+QStringList KTCommandLine::fileNames() const
+{
+    return myParser.positionalArguments().mid(1);
 }
 
 std::optional<int> KTCommandLine::number(const QCommandLineOption &option) const

@@ -14,18 +14,26 @@ class KTSpool;
 class KTCommandLine
 {
 public:
-    KTCommandLine(const QString &command, const QString &description, const QString &example);
+    /** How many files are expected after the command. */
+    enum class Files {
+        One,
+        Any,
+    };
+
+    KTCommandLine(const QString &command, const QString &description, const QString &example,
+                  Files files = Files::One);
 
     QCommandLineParser &parser() { return myParser; }
     const QCommandLineParser &parser() const { return myParser; }
 
     /**
      * Parses what follows the program's name, the command included. An exit code means that there is nothing
-     * left to do: help was printed, or wrong usage reported. One file is expected after the command.
+     * left to do: help was printed, or wrong usage reported.
      */
     std::optional<KTExitCode> parse(const QStringList &arguments);
     /** The file given; "-" for standard input. */
     QString fileName() const;
+    QStringList fileNames() const;
     /** The option's value as a number; when there is none, wrong usage is reported. */
     std::optional<int> number(const QCommandLineOption &option) const;
     /** Each of the option's values as a number; one that is none is reported as wrong usage. */
@@ -41,5 +49,6 @@ public:
 
 private:
     QString myCommand;
+    Files myFiles;
     QCommandLineParser myParser;
 };

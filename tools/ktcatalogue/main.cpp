@@ -1,3 +1,4 @@
+#include "KTCheckCommand.h"
 #include "KTCommandLine.h"
 #include "KTNearestWord.h"
 #include "KTOrderCommand.h"
@@ -16,6 +17,7 @@ struct CommandRow
 
 constexpr CommandRow COMMANDS[] = {
     {"show",  "Shows what the library makes of each article.",           &KTShowCommand::run },
+    {"check", "Finds what the library passes over in silence.",          &KTCheckCommand::run},
     {"order", "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run},
 };
 

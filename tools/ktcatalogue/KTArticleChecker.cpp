@@ -1,0 +1,782 @@
+#include "KTArticleChecker.h"
+
+#include "KTArticleModel.h"
+#include "KTClassifications.h"
+#include "KTNearestWord.h"
+#include "KTVariantsText.h"
+
+#include <KTArticleClass.h>
+#include <KTDirectoryConfig.h>
+#include <KTPriceClassSet.h>
+#include <KTXMLParser.h>
+
+#include <QColor>
+#include <QImage>
+#include <QVarLengthArray>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+const QString PROBE_ELEMENT = QStringLiteral("probe");
+const QLatin1String XML_PREFIX("xml");
+constexpr int ARTICLE_INDEX = 0;
+// Nine digits always fit into an int.
+constexpr int SAFE_DIGITS = 9;
+// Enough for the texts that a catalogue repeats, and no more memory than a small one takes.
+constexpr int MOST_KEPT_ANSWERS = 1000;
+constexpr int LONGEST_KEPT_TEXT = 64;
+
+/** The text without a copy of its own; it must not outlive the article. */
+QString raw(QStringView text)
+{
+    return QString::fromRawData(text.data(), static_cast<int>(text.size()));
+}
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+bool isPlainInteger(QStringView text)
+{
+    return !text.isEmpty() && text.size() <= SAFE_DIGITS && std::all_of(text.begin(), text.end(), &isDigit);
+}
+
+/** A few digits, among them at most one decimal point. */
+bool isPlainNumber(QStringView text)
+{
+    if (text.isEmpty() || text.size() > SAFE_DIGITS || !isDigit(text.front()) || !isDigit(text.back()))
+        return false;
+    return std::count(text.begin(), text.end(), QChar(u'.')) <= 1
+        && std::all_of(text.begin(), text.end(),
+                       [](QChar character) { return character == u'.' || isDigit(character); });
+}
+
+bool isPlainBoolean(QStringView text)
+{
+    return text == QLatin1String("true") || text == QLatin1String("false") || text == QLatin1String("1")
+        || text == QLatin1String("0");
+}
+
+/** True for the characters that can separate or fill in anything in one of the forms of an option. */
+bool isSeparator(QChar character)
+{
+    switch (character.unicode()) {
+    case u',':
+    case u':':
+    case u';':
+    case u'|':
+    case u'+':
+    case u'%':
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool hasSeparator(QStringView text)
+{
+    return std::any_of(text.begin(), text.end(), &isSeparator);
+}
+
+/** ", did you mean 'alcolor'?", or nothing. */
+QString suggestion(const QString &word, const QStringList &candidates)
+{
+    const QString nearest = KTNearestWord::find(word, candidates);
+    return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean '%1'?").arg(nearest);
+}
+
+/** What is wrong with the number, in words. */
+QString numberFault(const QString &text, KTAttributeType type)
+{
+    bool ok = false;
+    const double number = text.toDouble(&ok);
+    if (std::isnan(number) || (ok && std::isinf(number)))
+        return QStringLiteral("is not finite");
+    if (std::isinf(number))
+        return QStringLiteral("is out of range");
+    if (type == KTAttributeType::Number)
+        return QStringLiteral("is no number");
+    return ok && number == std::floor(number) && std::abs(number) > std::numeric_limits<int>::max()
+        ? QStringLiteral("is out of range")
+        : QStringLiteral("is no whole number");
+}
+
+/** The letters before the number; a code that begins with a digit is a family of its own. */
+QString priceClassFamily(const QString &code)
+{
+    const auto *const end = std::find_if(code.begin(), code.end(), &isDigit);
+    return end == code.begin() ? code : code.left(static_cast<int>(end - code.begin()));
+}
+
+/** The families of the add-ons that the library knows, and of the albums and calendars. */
+const QStringList &priceClassFamilies()
+{
+    static const QStringList myFamilies = [] {
+        QStringList families {QStringLiteral("ALB"), QStringLiteral("ALBS"), QStringLiteral("CAL")};
+        const KTPriceClassSet groups[] = {KTPriceClassSet::spotColorAll(),
+                                          KTPriceClassSet::bookGiftBoxes(),
+                                          KTPriceClassSet::calendarGiftBoxes(),
+                                          KTPriceClassSet::framePassepartout(),
+                                          KTPriceClassSet::frameGlasses(),
+                                          KTPriceClassSet::calendarFrameClasses(),
+                                          KTPriceClassSet::posterWoddenStrips(),
+                                          KTPriceClassSet::wallholderPriceClasses(),
+                                          KTPriceClassSet::maps(),
+                                          KTPriceClassSet::envelops(),
+                                          KTPriceClassSet::mattCoverPriceClasses(),
+                                          KTPriceClassSet::flyleafPriceClasses(),
+                                          KTPriceClassSet::designPriceClasses(),
+                                          KTPriceClassSet::videoNames()};
+        for (const KTPriceClassSet &group : groups) {
+            for (const KTPriceClass &priceClass : group)
+                families.append(priceClassFamily(priceClass.toString()));
+        }
+        families.removeDuplicates();
+        families.sort();
+        return families;
+    }();
+    return myFamilies;
+}
+
+QStringList readableKeywords(const KTClassification &classification)
+{
+    QStringList keywords;
+    for (const KTKeywordInfo &info : classification.keywords())
+        keywords += QStringList(info.written) + info.aliases;
+    return keywords;
+}
+
+/** What the classification makes of entries that are no keywords; empty when there are none. */
+QString keywordMessage(const KTAttributeRow &row, const QString &text)
+{
+    // A text without any entry stands for the default, as a missing one does.
+    if (text.trimmed().isEmpty())
+        return QString();
+    const KTClassification *const classification = KTClassification::ofAttribute(
+        KTCatalogueFormat::instance().elementName(row.element), QString::fromLatin1(row.name));
+    const KTClassificationReading reading = classification->read(text);
+    if (reading.unknown.isEmpty())
+        return QString();
+    const QString word = reading.unknown.constFirst();
+    QString message = word.isEmpty()
+        ? QStringLiteral("an empty entry in '%1'").arg(text)
+        : QStringLiteral("'%1' is no keyword of %2").arg(word, QString::fromLatin1(row.name));
+    if (reading.unknown.size() > 1)
+        message += QStringLiteral(" (nor are %1 more)").arg(reading.unknown.size() - 1);
+    message += reading.readAs.isEmpty()
+        ? QStringLiteral("; the application reads nothing from it")
+        : QStringLiteral("; the application reads it as the default, '%1'").arg(reading.readAs);
+    return message + suggestion(word, readableKeywords(*classification));
+}
+
+} // namespace
+
+QVector<KTFinding> KTArticleChecker::check(const KTCatalogueArticle &article)
+{
+    begin(article);
+    for (int i = 0; i < article.elements().size(); ++i) {
+        const KTElementKind kind = enterElement(i);
+        myKinds.append(kind);
+        if (kind == KTElementKind::Unread)
+            continue;
+        enterAttributes(kind);
+        switch (kind) {
+        case KTElementKind::Article:
+            checkArticle();
+            break;
+        case KTElementKind::Spine:
+            checkSpine();
+            break;
+        case KTElementKind::Barcodes:
+            enterBarcodes();
+            break;
+        case KTElementKind::Barcode:
+            checkBarcode();
+            break;
+        case KTElementKind::Form:
+            checkOption();
+            break;
+        default:
+            break;
+        }
+    }
+    checkPreselections();
+    return sortedFindings();
+}
+
+QVector<KTFinding> KTArticleChecker::checkOther(const KTCatalogueArticle &article, bool isRoot)
+{
+    begin(article);
+    myElement = &article.elements().constFirst();
+    if (isRoot)
+        enterAttributes(KTElementKind::Catalogue);
+    else
+        checkUnreadElement(KTElementKind::Catalogue);
+    return sortedFindings();
+}
+
+void KTArticleChecker::begin(const KTCatalogueArticle &article)
+{
+    myArticle = &article;
+    myArticleId = 0;
+    myFindings.clear();
+    myKinds.resize(0);
+    myHasElement.fill(false);
+    myOptionLines.clear();
+    myPreselections.clear();
+    myBarcodeLines.clear();
+}
+
+QVector<KTFinding> KTArticleChecker::sortedFindings()
+{
+    std::stable_sort(myFindings.begin(), myFindings.end(),
+                     [](const KTFinding &first, const KTFinding &second) {
+                         return first.position.line != second.position.line
+                             ? first.position.line < second.position.line
+                             : first.position.column < second.position.column;
+                     });
+    return myFindings;
+}
+
+/** The kind of the element, Unread for one that is skipped; what nobody expects there is reported. */
+KTElementKind KTArticleChecker::enterElement(int index)
+{
+    myElement = &myArticle->elements().at(index);
+    if (index == ARTICLE_INDEX)
+        return KTElementKind::Article;
+    const KTElementKind parent = myKinds.at(myElement->parent);
+    if (parent == KTElementKind::Unread)
+        return KTElementKind::Unread;
+    const KTElementRow *const row
+        = KTCatalogueFormat::instance().element(parent, myArticle->view(myElement->name));
+    if (!row) {
+        checkUnreadElement(parent);
+        return KTElementKind::Unread;
+    }
+    bool &hasElement = myHasElement[static_cast<std::size_t>(row->kind)];
+    if (row->isSingle && hasElement) {
+        report(
+            KTRule::RepeatedElement,
+            QStringLiteral("a further '%1'; the application reads the first one only and skips this one with "
+                           "everything inside")
+                .arg(QString::fromLatin1(row->name)));
+        return KTElementKind::Unread;
+    }
+    hasElement = true;
+    return row->kind;
+}
+
+void KTArticleChecker::checkUnreadElement(KTElementKind parent)
+{
+    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
+    const QString name = myArticle->view(myElement->name).toString();
+    QStringList children;
+    QString parents;
+    for (const QString &known : format.elementNames()) {
+        if (format.element(parent, known))
+            children.append(known);
+        else if (known == name)
+            parents = QStringLiteral("; it belongs elsewhere");
+    }
+    report(KTRule::UnknownElement,
+           QStringLiteral("nothing reads '%1' in '%2'; the application skips it with everything inside")
+                   .arg(name, format.elementName(parent))
+               + (parents.isEmpty() ? suggestion(name, children) : parents));
+}
+
+/** Finds the attributes of the present element and checks each by itself. */
+void KTArticleChecker::enterAttributes(KTElementKind kind)
+{
+    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
+    myFound.fill(-1);
+    const int end = myElement->firstAttribute + myElement->attributeCount;
+    QVarLengthArray<const KTAttributeRow *, 32> rows;
+    for (int i = myElement->firstAttribute; i < end; ++i) {
+        const KTAttributeRow *const row
+            = format.attribute(kind, myArticle->view(myArticle->attributes().at(i).name));
+        rows.append(row);
+        if (row && row->role != Role::Other)
+            myFound[static_cast<std::size_t>(row->role)] = i;
+    }
+    if (kind == KTElementKind::Article)
+        beginArticle();
+    for (int i = myElement->firstAttribute; i < end; ++i) {
+        const Attribute &attribute = myArticle->attributes().at(i);
+        if (const KTAttributeRow *const row = rows.at(i - myElement->firstAttribute))
+            checkAttribute(attribute, *row);
+        else
+            checkUnknownAttribute(attribute, kind);
+    }
+}
+
+void KTArticleChecker::checkAttribute(const Attribute &attribute, const KTAttributeRow &row)
+{
+    const QStringView text = myArticle->view(attribute.value);
+    switch (row.type) {
+    case KTAttributeType::Text:
+        break;
+    case KTAttributeType::Keywords:
+        checkKeywords(attribute, row);
+        break;
+    case KTAttributeType::Integer:
+    case KTAttributeType::Number:
+        checkNumber(attribute, row);
+        break;
+    case KTAttributeType::Boolean:
+        if (!isReadable(row.type, text)) {
+            report(KTRule::UnreadableBoolean,
+                   QStringLiteral("'%1' is neither true nor false; the application takes %2")
+                       .arg(text.toString(), QString::fromLatin1(row.replacement)),
+                   &attribute);
+        }
+        break;
+    case KTAttributeType::Unit:
+        checkUnit(attribute);
+        break;
+    case KTAttributeType::Color:
+        checkColor(attribute, row);
+        break;
+    }
+}
+
+void KTArticleChecker::checkUnknownAttribute(const Attribute &attribute, KTElementKind kind)
+{
+    const QString name = myArticle->view(attribute.name).toString();
+    // Declarations and attributes of XML itself are for everyone.
+    if (name.startsWith(XML_PREFIX))
+        return;
+    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
+    report(KTRule::UnknownAttribute,
+           QStringLiteral("nothing reads '%1' of '%2'; the application behaves as if it were not there")
+                   .arg(name, format.elementName(kind))
+               + suggestion(name, format.attributeNames(kind)),
+           &attribute);
+}
+
+void KTArticleChecker::checkKeywords(const Attribute &attribute, const KTAttributeRow &row)
+{
+    const QStringView text = myArticle->view(attribute.value);
+    const auto known = myKeywordMessages.constFind({&row, raw(text)});
+    const QString message
+        = known == myKeywordMessages.constEnd() ? keywordMessage(row, text.toString()) : *known;
+    if (known == myKeywordMessages.constEnd() && text.size() <= LONGEST_KEPT_TEXT) {
+        if (myKeywordMessages.size() >= MOST_KEPT_ANSWERS)
+            myKeywordMessages.clear();
+        myKeywordMessages.insert({&row, text.toString()}, message);
+    }
+    if (!message.isEmpty())
+        report(KTRule::UnknownKeyword, message, &attribute);
+}
+
+void KTArticleChecker::checkNumber(const Attribute &attribute, const KTAttributeRow &row)
+{
+    const QStringView view = myArticle->view(attribute.value);
+    if (isReadable(row.type, view))
+        return;
+    const QString text = view.toString();
+    const bool isPageCount = row.element == KTElementKind::Article && *row.replacement == 0;
+    QString message = QStringLiteral("'%1' %2; the application takes %3")
+                          .arg(text, numberFault(text, row.type),
+                               isPageCount ? QStringLiteral("the default: %1").arg(pageCountsText())
+                                           : QString::fromLatin1(row.replacement));
+    const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
+    if (row.type == KTAttributeType::Number && isReadable(row.type, withPoint))
+        message += QStringLiteral("; did you mean '%1'?").arg(withPoint);
+    report(row.role == Role::ShippingGroup ? KTRule::ShippingGroup : KTRule::UnreadableNumber, message,
+           &attribute);
+}
+
+void KTArticleChecker::checkUnit(const Attribute &attribute)
+{
+    const QString text = myArticle->view(attribute.value).toString();
+    if (KTArticleModel::readUnit(probe({Role::Units})).hasExactlyOneBit())
+        return;
+    report(KTRule::UnknownUnit,
+           QStringLiteral("'%1' is no unit; the application takes the numbers as layout units of 0.1 mm")
+                   .arg(text)
+               + suggestion(text,
+                            readableKeywords(*KTClassification::ofClass(QStringLiteral("KTDistanceUnit")))),
+           &attribute);
+}
+
+void KTArticleChecker::checkColor(const Attribute &attribute, const KTAttributeRow &row)
+{
+    const QStringView text = myArticle->view(attribute.value);
+    if (text.isEmpty() || QColor::isValidColor(raw(text)))
+        return;
+    report(KTRule::UnknownColor,
+           QStringLiteral("'%1' is no colour; the application takes %2")
+                   .arg(text.toString(), QString::fromLatin1(row.replacement))
+               + suggestion(text.toString(), QColor::colorNames()),
+           &attribute);
+}
+
+/** Reads what the checks of the article's attributes need to know. */
+void KTArticleChecker::beginArticle()
+{
+    const QDomElement article = probe({Role::ArtId, Role::Id, Role::ArticleClass, Role::Pages, Role::MaxPages,
+                                       Role::PageStep, Role::Pieces});
+    myArticleId = KTArticleId::findId(article).id();
+    myPageCounts = KTArticleModel::readPageCounts(article);
+    mySpinePageCounts = KTPageCountOrganization::createFromProductsXML(article);
+}
+
+void KTArticleChecker::checkArticle()
+{
+    const QDomElement article = probe({Role::ArtId, Role::Id});
+    const KTArticleId artId = KTArticleId::fromArtIdAttribute(article);
+    const KTArticleId id = KTArticleId::fromIdAttribute(article);
+    if (!KTArticleId(myArticleId).isValid()) {
+        report(
+            KTRule::NoArticleId,
+            QStringLiteral("neither 'art_id' nor 'id' is a positive number; no order can name the article"),
+            firstFound({Role::ArtId, Role::Id}));
+    } else if (artId.isValid() && id.isValid() && artId != id) {
+        report(KTRule::ConflictingIds,
+               QStringLiteral("'art_id' is %1 and 'id' is %2; the application takes %3")
+                   .arg(artId.id())
+                   .arg(id.id())
+                   .arg(myArticleId),
+               found(Role::Id));
+    }
+    if (!found(Role::ProductName)) {
+        report(KTRule::NoProductName,
+               QStringLiteral("there is no 'productname'; the application takes '%1'")
+                   .arg(KTProductType::fromMcf(article).orderTxtName()));
+    }
+    checkPriceClass();
+    checkPageCounts();
+}
+
+void KTArticleChecker::checkPriceClass()
+{
+    const QString code = text(Role::PriceClass).toString();
+    if (KTPriceClass(code).isFree())
+        return;
+    const QString family = priceClassFamily(code);
+    if (!priceClassFamilies().contains(family)) {
+        report(KTRule::UnknownPriceClass,
+               QStringLiteral(
+                   "'%1' is no known family of price classes; the application bills '%2' as it stands")
+                       .arg(family, code)
+                   + suggestion(family, priceClassFamilies()),
+               found(Role::PriceClass));
+    }
+}
+
+void KTArticleChecker::checkPageCounts()
+{
+    constexpr Role ROLES[] = {Role::Pages, Role::MaxPages, Role::PageStep, Role::Pieces};
+    if (std::none_of(std::begin(ROLES), std::end(ROLES), [this](Role role) { return found(role); }))
+        return;
+    if (KTArticleId(myArticleId).isAdventCalendarWithDoorBackPrint()) {
+        for (const Role role : ROLES) {
+            if (found(role)) {
+                report(
+                    KTRule::IgnoredAttribute,
+                    QStringLiteral("the application does not read it here: this calendar always has %1 pages")
+                        .arg(myPageCounts.minPages()),
+                    found(role));
+            }
+        }
+        return;
+    }
+    if (found(Role::Pieces)
+        && KTArticleClass(text(Role::ArticleClass).toString()).matches(KTArticleClassPictureBox)) {
+        report(KTRule::IgnoredAttribute,
+               QStringLiteral("the application reads the page counts of a picture box without 'pieces': %1")
+                   .arg(pageCountsText()),
+               found(Role::Pieces));
+    }
+    constexpr int HIGHEST = std::numeric_limits<int>::max();
+    const int min = myPageCounts.minPages();
+    const int max = myPageCounts.maxPages();
+    const int step = myPageCounts.pageIncrement();
+    const QString counts = pageCountsText();
+    const Attribute *const upper = firstFound({Role::MaxPages, Role::Pages});
+    const Attribute *const stepOrUpper = firstFound({Role::PageStep, Role::MaxPages, Role::Pages});
+    const QString wish = QStringLiteral("a wish for %1 pages becomes %2");
+    if (min < 1 || max < 1) {
+        report(KTRule::PageCountRange,
+               QStringLiteral("the page counts are %1, and those below 1 are not valid").arg(counts),
+               firstFound({Role::Pages, Role::Pieces, Role::MaxPages}));
+    } else if (found(Role::Pieces) && (min == HIGHEST || max == HIGHEST)) {
+        report(KTRule::PageCountRange,
+               QStringLiteral("'pages' times 'pieces' is too large; the application cuts it off: %1")
+                   .arg(counts),
+               found(Role::Pieces));
+    } else if (min > max) {
+        report(KTRule::PagesInverted,
+               QStringLiteral("the page counts are %1, which is not valid; ").arg(counts)
+                   + wish.arg(max).arg(myPageCounts.constrain(max)),
+               upper);
+    } else if (step < 0) {
+        report(KTRule::NegativePageStep,
+               QStringLiteral("the page counts are %1, which is not valid; ").arg(counts)
+                   + wish.arg(max).arg(myPageCounts.constrain(max)),
+               found(Role::PageStep));
+    } else if (step == 0 && min < max) {
+        report(KTRule::NoPageStep,
+               QStringLiteral("the page counts are %1, so that they never step; ").arg(counts)
+                   + wish.arg(max).arg(myPageCounts.constrain(max)),
+               stepOrUpper);
+    } else if (min < max && !myPageCounts.isConsistent()) {
+        report(KTRule::UnevenPageStep,
+               QStringLiteral("the page counts are %1, but the last count offered is %2; ")
+                       .arg(counts)
+                       .arg(myPageCounts.pagesWithNExtraPackages(myPageCounts.numberOfPackages() - 1))
+                   + wish.arg(max).arg(myPageCounts.constrain(max))
+                   + QStringLiteral(", which exceeds the maximum"),
+               stepOrUpper);
+    }
+}
+
+void KTArticleChecker::checkSpine()
+{
+    const QStringView packages = text(Role::PackagesPerBlock);
+    if (packages.isEmpty() || mySpinePageCounts.pageIncrement() != 0
+        || KTXMLParser::intAttribute(probe({Role::PackagesPerBlock}), QStringLiteral("packages_per_block"), 0)
+            == 0)
+        return;
+    report(KTRule::SpineWithoutStep,
+           QStringLiteral(
+               "a block has %1 packages of pages, but the article has no 'page_step'; the spine never "
+               "grows")
+               .arg(packages.toString()),
+           found(Role::PackagesPerBlock));
+}
+
+void KTArticleChecker::checkOption()
+{
+    const QStringView key = text(Role::Key);
+    const QStringView value = text(Role::Value);
+    if (key.isEmpty() || value.isEmpty()) {
+        report(KTRule::IncompleteOption,
+               QStringLiteral("the option has no %1; the application skips it")
+                   .arg(key.isEmpty() ? QStringLiteral("key") : QStringLiteral("value")));
+        return;
+    }
+    const QPair<QStringView, QStringView> option(key, value);
+    const auto earlier = myOptionLines.constFind(option);
+    if (earlier != myOptionLines.constEnd()) {
+        report(
+            KTRule::DuplicateOption,
+            QStringLiteral("'%1' with '%2' stands in line %3 already; the application lists it again, but an "
+                           "order cannot tell the two")
+                .arg(key.toString(), value.toString())
+                .arg(*earlier));
+    } else {
+        myOptionLines.insert(option, myElement->position.line);
+    }
+    if (hasSeparator(key) || hasSeparator(value))
+        checkCompound(key.toString(), value.toString());
+    if (const Attribute *const preselected = found(Role::Preselected)) {
+        const QStringView isPreselected = myArticle->view(preselected->value);
+        if (isPreselected != QLatin1String("false")
+            && KTXMLParser::boolAttribute(probe({Role::Preselected}), QStringLiteral("preselected"), false)) {
+            Preselection &preselection = myPreselections[key];
+            ++preselection.count;
+            preselection.element = myElement;
+            preselection.attribute = preselected;
+        }
+    }
+}
+
+/** Lets the library write the option and looks whether it can be read back. */
+void KTArticleChecker::checkCompound(const QString &key, const QString &value)
+{
+    const KTArticleVariants option(key, value);
+    const KTArticleVariants production = option.toXTCI();
+    if (!production.isValid()) {
+        report(
+            KTRule::CompoundParts,
+            QStringLiteral("'%1' and '%2' have different numbers of parts; the order text and the production "
+                           "form leave the option out")
+                .arg(key, value),
+            found(Role::Value));
+        return;
+    }
+    const QString mcf = option.toMCF();
+    if (KTArticleVariants::createFromMCF(mcf) != option) {
+        report(KTRule::ReservedCharacter,
+               QStringLiteral("the application writes the option as '%1' in MCF, which reads back as '%2'")
+                   .arg(mcf, KTVariantsText::mcf(KTArticleVariants::createFromMCF(mcf))),
+               found(hasSeparator(key) ? Role::Key : Role::Value));
+        return;
+    }
+    const QString orderText = option.toOrderTxt();
+    KTArticleVariants readBack;
+    for (const QString &pair : orderText.split(QLatin1Char(';')))
+        readBack.insert(KTArticleVariants(pair));
+    if (readBack != production) {
+        report(
+            KTRule::ReservedCharacter,
+            QStringLiteral("the application writes the option as '%1' in the order text, which reads back as "
+                           "'%2'")
+                .arg(orderText, KTVariantsText::mcf(readBack)),
+            found(hasSeparator(key) ? Role::Key : Role::Value));
+    }
+}
+
+void KTArticleChecker::enterBarcodes()
+{
+    myBarcodeUnit = KTArticleModel::readUnit(probe({Role::Units}));
+    // The library takes it so as well, but with a warning for each number.
+    if (!myBarcodeUnit.hasExactlyOneBit())
+        myBarcodeUnit = KTDistanceUnitLayout;
+}
+
+void KTArticleChecker::checkBarcode()
+{
+    const KTBarcodeDefinition barcode = KTBarcodeDefinition::createFromProductsXML(
+        probe({Role::PositionX, Role::PositionY, Role::Width, Role::Height, Role::Image}), myBarcodeUnit);
+    if (barcode.imageName().isEmpty()) {
+        report(KTRule::BarcodeDropped,
+               QStringLiteral("the barcode has an empty image name; the application skips it"),
+               found(Role::Image));
+        return;
+    }
+    if (!barcode.isValid()) {
+        report(
+            KTRule::BarcodeDropped,
+            QStringLiteral("the barcode is smaller than one layout unit (0.1 mm); the application skips it"),
+            firstFound({barcode.rect().width() < 1 ? Role::Width : Role::Height, Role::Width, Role::Height}));
+        return;
+    }
+    // Page and image do not count: the library finds a barcode by its rectangle.
+    const KTBarcodeDefinition place(barcode.rect(), 0, QString());
+    const auto earlier = myBarcodeLines.constFind(place);
+    if (earlier == myBarcodeLines.constEnd()) {
+        myBarcodeLines.insert(place, myElement->position.line);
+    } else {
+        report(KTRule::BarcodeSamePlace,
+               QStringLiteral("the barcode in line %1 has the same rectangle; the application, which finds a "
+                              "barcode by its rectangle, always takes that one")
+                   .arg(*earlier));
+    }
+    if (!hasImage(barcode)) {
+        report(KTRule::BarcodeImage,
+               QStringLiteral(
+                   "'%1' is no picture below 'icons/picshelf' of the resources; the application shows "
+                   "no barcode")
+                   .arg(barcode.imageName()),
+               found(Role::Image));
+    }
+}
+
+bool KTArticleChecker::hasImage(const KTBarcodeDefinition &barcode)
+{
+    // Without resources nothing can be told about any image.
+    if (KTSingleton<KTDirectoryConfig>::instance()->resourceRoot().isEmpty())
+        return true;
+    const auto known = myImages.constFind(barcode.imageName());
+    if (known != myImages.constEnd())
+        return *known;
+    const bool hasImage = !barcode.image().isNull();
+    if (myImages.size() >= MOST_KEPT_ANSWERS)
+        myImages.clear();
+    if (barcode.imageName().size() <= LONGEST_KEPT_TEXT)
+        myImages.insert(barcode.imageName(), hasImage);
+    return hasImage;
+}
+
+void KTArticleChecker::checkPreselections()
+{
+    const bool isAmbiguous
+        = std::any_of(myPreselections.begin(), myPreselections.end(),
+                      [](const Preselection &preselection) { return preselection.count > 1; });
+    if (!isAmbiguous)
+        return;
+    const KTArticleVariants winners = KTConfiguredArticleVariantList(myArticle->element()).defaultVariants();
+    for (auto it = myPreselections.begin(); it != myPreselections.end(); ++it) {
+        if (it->count < 2)
+            continue;
+        myElement = it->element;
+        const QString key = it.key().toString();
+        report(KTRule::SeveralPreselected,
+               QStringLiteral("%1 options of '%2' are preselected; the application takes the last one, '%3'")
+                   .arg(it->count)
+                   .arg(key, winners.value(key, QString())),
+               it->attribute);
+    }
+}
+
+const KTArticleChecker::Attribute *KTArticleChecker::found(Role role) const
+{
+    const int place = myFound[static_cast<std::size_t>(role)];
+    return place < 0 ? nullptr : &myArticle->attributes().at(place);
+}
+
+/** The first of the attributes that is there; null when none is. */
+const KTArticleChecker::Attribute *KTArticleChecker::firstFound(std::initializer_list<Role> roles) const
+{
+    for (const Role role : roles) {
+        if (const Attribute *const attribute = found(role))
+            return attribute;
+    }
+    return nullptr;
+}
+
+QStringView KTArticleChecker::text(Role role) const
+{
+    const Attribute *const attribute = found(role);
+    return attribute ? myArticle->view(attribute->value) : QStringView();
+}
+
+/** An element with these attributes of the present one, to ask the library with. */
+QDomElement KTArticleChecker::probe(std::initializer_list<Role> roles)
+{
+    QDomElement element = myProbes.createElement(PROBE_ELEMENT);
+    for (const Role role : roles) {
+        if (const Attribute *const attribute = found(role)) {
+            element.setAttribute(KTCatalogueFormat::instance().attributeName(role),
+                                 myArticle->view(attribute->value).toString());
+        }
+    }
+    return element;
+}
+
+/** Unreadable is a text for which the library takes whatever default it is given. */
+bool KTArticleChecker::isReadable(KTAttributeType type, QStringView text)
+{
+    if (type == KTAttributeType::Boolean       ? isPlainBoolean(text)
+            : type == KTAttributeType::Integer ? isPlainInteger(text)
+                                               : isPlainNumber(text))
+        return true;
+    QDomElement element = myProbes.createElement(PROBE_ELEMENT);
+    element.setAttribute(PROBE_ELEMENT, text.toString());
+    const auto asInteger
+        = [&element](int other) { return KTXMLParser::intAttribute(element, PROBE_ELEMENT, other); };
+    const auto asNumber
+        = [&element](double other) { return KTXMLParser::doubleAttribute(element, PROBE_ELEMENT, other); };
+    const auto asBoolean
+        = [&element](bool other) { return KTXMLParser::boolAttribute(element, PROBE_ELEMENT, other); };
+    switch (type) {
+    case KTAttributeType::Integer:
+        return asInteger(0) == asInteger(1);
+    case KTAttributeType::Number:
+        return !(asNumber(0.0) < asNumber(1.0));
+    default:
+        return asBoolean(false) == asBoolean(true);
+    }
+}
+
+QString KTArticleChecker::pageCountsText() const
+{
+    return QStringLiteral("%1 to %2, step %3")
+        .arg(myPageCounts.minPages())
+        .arg(myPageCounts.maxPages())
+        .arg(myPageCounts.pageIncrement());
+}
+
+void KTArticleChecker::report(KTRule rule, const QString &message, const Attribute *attribute)
+{
+    myFindings.append({rule, KTCheckRules::row(rule).severity, QString(),
+                       attribute ? attribute->position : myElement->position, myArticleId,
+                       myArticle->view(myElement->name).toString(),
+                       attribute ? myArticle->view(attribute->name).toString() : QString(), message});
+}

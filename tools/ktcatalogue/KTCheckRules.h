@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+enum class KTSeverity {
+    Hint,
+    Warning,
+    Error,
+};
+
+/** What can be wrong with a catalogue, in the order of the documentation. */
+enum class KTRule {
+    UnreadableFile,
+    NotWellFormed,
+    LimitExceeded,
+    UnknownElement,
+    UnknownAttribute,
+    RepeatedElement,
+    IgnoredAttribute,
+    NoArticleId,
+    DuplicateId,
+    ConflictingIds,
+    NoProductName,
+    UnknownKeyword,
+    UnknownPriceClass,
+    ShippingGroup,
+    UnreadableNumber,
+    UnreadableBoolean,
+    UnknownUnit,
+    UnknownColor,
+    PageCountRange,
+    PagesInverted,
+    NegativePageStep,
+    NoPageStep,
+    UnevenPageStep,
+    SpineWithoutStep,
+    IncompleteOption,
+    CompoundParts,
+    ReservedCharacter,
+    DuplicateOption,
+    SeveralPreselected,
+    BarcodeDropped,
+    BarcodeSamePlace,
+    BarcodeImage,
+};
+
+struct KTRuleRow
+{
+    KTRule rule;
+    const char *name;
+    KTSeverity severity;
+    /** One line. */
+    const char *summary;
+    /** What the application makes of it and what to do. */
+    const char *explanation;
+};
+
+namespace KTCheckRules {
+
+constexpr int COUNT = static_cast<int>(KTRule::BarcodeImage) + 1;
+
+const KTRuleRow &row(KTRule rule);
+/** The row at the index, which is the rule's number. */
+const KTRuleRow &at(int index);
+/** Null for a name that no rule has. */
+const KTRuleRow *find(const QString &name);
+QStringList names();
+QString name(KTRule rule);
+/** "error", "warning" or "hint". */
+QString name(KTSeverity severity);
+
+} // namespace KTCheckRules
+
+/** How severe the user takes each rule. */
+class KTRuleSeverities
+{
+public:
+    void ignore(KTRule rule) { myIgnored.insert(static_cast<int>(rule)); }
+    void raiseToError(KTRule rule) { myErrors.insert(static_cast<int>(rule)); }
+    /** Warnings count as errors and hints as warnings. */
+    void setPedantic(bool pedantic) { myIsPedantic = pedantic; }
+
+    /** Nothing for a rule that is ignored. */
+    std::optional<KTSeverity> severity(KTRule rule) const;
+
+private:
+    QSet<int> myIgnored;
+    QSet<int> myErrors;
+    bool myIsPedantic = false;
+};

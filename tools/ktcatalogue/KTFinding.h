@@ -1,0 +1,23 @@
+#pragma once
+
+#include "KTCatalogueScanner.h"
+#include "KTCheckRules.h"
+
+#include <QString>
+
+/** Something wrong with a catalogue, and where. */
+struct KTFinding
+{
+    KTRule rule;
+    KTSeverity severity;
+    QString file;
+    KTFilePosition position;
+    /** 0 outside of articles and in one without a number. */
+    int articleId;
+    /** Empty where the file itself is meant. */
+    QString element;
+    /** Empty where the element is meant. */
+    QString attribute;
+    /** What is wrong and what the application does with it. */
+    QString message;
+};
