@@ -22,7 +22,7 @@ public:
 
     /** Both ends moved by the distance. */
     [[nodiscard]] KTIntRange shifted(qint64 distance) const;
-    /** Both ends multiplied by the factor; a negative one leaves an invalid range or a point. */
+    /** Both ends multiplied by the factor; a negative one turns a range into an invalid one. */
     [[nodiscard]] KTIntRange stretched(int factor) const;
 };
 

@@ -15,6 +15,8 @@ namespace {
 
 constexpr KTStringLiteral BARCODE_TAG = "barcode";
 
+constexpr qint64 MOST_PIECES = 4000000;
+
 /** A list under change whose entries are found by value and by rectangle without walking it. */
 class IndexedList
 {
@@ -93,12 +95,45 @@ KTBarcodeDefinitionList IndexedList::toList() const
     return list;
 }
 
+/** How a region is stored: in bands from top to bottom, each a row of rectangles. */
+struct Bands
+{
+    qint64 count = 0;
+    qint64 widest = 0;
+};
+
+Bands bandsOf(const QRegion &region)
+{
+    Bands bands;
+    qint64 width = 0;
+    int top = 0;
+    for (const QRect &rect : region) {
+        if (bands.count == 0 || rect.top() != top) {
+            ++bands.count;
+            top = rect.top();
+            width = 0;
+        }
+        bands.widest = std::max(bands.widest, ++width);
+    }
+    return bands;
+}
+
+/** The union; the rectangle around it when bars that cross would cut it into too many pieces to hold. */
+QRegion united(const QRegion &first, const QRegion &second)
+{
+    const Bands firstBands = bandsOf(first);
+    const Bands secondBands = bandsOf(second);
+    const qint64 mostPieces
+        = 2 * (firstBands.count + secondBands.count) * (firstBands.widest + secondBands.widest);
+    return mostPieces > MOST_PIECES ? QRegion(first.boundingRect() | second.boundingRect()) : first | second;
+}
+
 /** Halving keeps the number of regions that a rectangle is merged into logarithmic. */
 QRegion united(const QList<KTBarcodeDefinition> &definitions, int begin, int end)
 {
     if (end - begin > 1) {
         const int middle = begin + (end - begin) / 2;
-        return united(definitions, begin, middle).united(united(definitions, middle, end));
+        return united(united(definitions, begin, middle), united(definitions, middle, end));
     }
     return begin < end ? QRegion(definitions.at(begin).rect()) : QRegion();
 }

@@ -27,7 +27,10 @@ public:
     /** The first entry with exactly this rectangle, an invalid one when there is none. */
     KTBarcodeDefinition findDefinition(const QRect &rect) const;
     KTBarcodeDefinitionList barcodesOnPage(int pageNr) const;
-    /** The area of all entries, on whichever page. */
+    /**
+     * The area of all entries, on whichever page. Thousands of long bars that cross, which no product has,
+     * may be covered by the rectangle around them instead.
+     */
     QRegion occupiedRegion() const;
 
     /**
@@ -39,6 +42,7 @@ public:
     /**
      * A shorter list is less; of two lists of the same size, not empty, this one is less when each of its
      * entries is less than the other's at its place. No order either, see there: do not sort by it.
+     * The inherited other comparisons know nothing of it.
      */
     bool operator<(const KTBarcodeDefinitionList &other) const;
 };

@@ -1,5 +1,7 @@
 #include "KTContentStatistic.h"
 
+#include <QDebug>
+
 namespace {
 constexpr int AMOUNT_WITH_FIRST_FLAG = 1;
 constexpr int AMOUNT_WITH_SECOND_FLAG = 10;
@@ -22,4 +24,10 @@ void KTContentStatistic::adaptFromOrToVario(bool first, bool second)
     // Set, not scaled: going back does not restore what was bought before.
     for (int &amount : myBoughtAdditionalContent)
         amount = second ? AMOUNT_WITH_SECOND_FLAG : AMOUNT_WITH_FIRST_FLAG;
+}
+
+QDebug operator<<(QDebug stream, const KTContentStatistic &statistic)
+{
+    return stream << "KTContentStatistic:" << statistic.countGeoMapAreas() << statistic.countVideoAreas()
+                  << statistic.boughtAdditionalContent();
 }

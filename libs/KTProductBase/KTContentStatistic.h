@@ -4,6 +4,8 @@
 
 #include <QMap>
 
+class QDebug;
+
 /** What a product holds that is charged: its map and video areas, and the content that was bought. */
 class KTPRODUCTBASE_EXPORT KTContentStatistic
 {
@@ -35,3 +37,6 @@ private:
     int myCountVideoAreas;
     QMap<KTPriceClass, int> myBoughtAdditionalContent;
 };
+
+/** Writes the class name and the fields in their order. */
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTContentStatistic &statistic);

@@ -1,5 +1,7 @@
 #include "KTModelAddOnStatistic.h"
 
+#include <QDebug>
+
 #include <KTStringLiteral.h>
 
 namespace {
@@ -26,4 +28,11 @@ void KTModelAddOnStatistic::setFlyLeafAddOn(const KTPriceClass &priceClass, cons
 {
     myFlyLeafAddOn = priceClass;
     myFlyLeafVariants = variants;
+}
+
+QDebug operator<<(QDebug stream, const KTModelAddOnStatistic &statistic)
+{
+    return stream << "KTModelAddOnStatistic:" << statistic.contentStatistic() << statistic.videoAddOn()
+                  << statistic.spotColorAddOn() << statistic.flyLeafAddOn() << statistic.flyLeafVariants()
+                  << statistic.designStyleAddOns();
 }

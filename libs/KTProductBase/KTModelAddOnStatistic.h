@@ -4,6 +4,8 @@
 #include "KTContentStatistic.h"
 #include "KTPriceClassSet.h"
 
+class QDebug;
+
 /** The chargeable content of a product together with the add-ons chosen for the product as a whole. */
 class KTPRODUCTBASE_EXPORT KTModelAddOnStatistic
 {
@@ -48,3 +50,6 @@ private:
     KTArticleVariants myFlyLeafVariants;
     KTPriceClassSet myDesignStyleAddOns;
 };
+
+/** Writes the class name and the fields in their order. */
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTModelAddOnStatistic &statistic);

@@ -35,8 +35,8 @@ public:
      */
     [[nodiscard]] static KTPageCountOrganization createFromProductsXML(const QDomElement &element);
     /**
-     * Reads "pages" (default 1), "max_pages" (default: 29 more) and "page_step" (default 1): a box holds any
-     * number of pictures up to 30, and it never comes in pieces.
+     * Reads "pages" (default 1), "max_pages" (default: 29 more) and "page_step" (default 1): a span
+     * of 30 counts, one picture a step. A box never comes in pieces.
      */
     [[nodiscard]] static KTPageCountOrganization
     createFromProductsXMLForPictureBox(const QDomElement &element);
@@ -50,13 +50,16 @@ public:
 
     /** A copy; a fixed one can only have the minimum. */
     [[nodiscard]] KTPageCountOrganization clone(bool fixed) const;
-    /** The same with its minimum raised to the first step at or above the pages, even beyond the maximum. */
+    /**
+     * The same with its minimum raised to the first step at or above the pages, even beyond the maximum.
+     * Pages above the maximum raise it to the maximum only, and without an increment no others raise it.
+     */
     [[nodiscard]] KTPageCountOrganization adaptedTo(int pages) const;
 
     /**
      * The page count for a wish: outside the range its nearer end, inside the first step at or above the
-     * wish, which exceeds the maximum when the last step is not complete. Without an increment it is the
-     * minimum, whatever the wish.
+     * wish, which exceeds the maximum when the last step is not complete. Inside a range without an
+     * increment it is the minimum.
      */
     int constrain(int pages) const;
     int pagesWithNExtraPackages(int n) const;

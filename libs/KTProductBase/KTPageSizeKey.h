@@ -28,7 +28,7 @@ public:
     bool operator!=(const KTPageSizeKey &other) const { return !(*this == other); }
     /**
      * By context, but false for equal page counts; so it is neither an order of all keys nor does it agree
-     * with equality. Kept that way for the tables that are filled with one key per page type.
+     * with equality. Kept because existing tables of page sizes depend on it.
      */
     bool operator<(const KTPageSizeKey &other) const;
 

@@ -36,20 +36,24 @@ void KTProductCheckerRegistry::unregisterChecker(KTProductChecker *checker)
 void KTProductCheckerRegistry::clearCaches()
 {
     myCache.clear();
+    ++myGeneration;
 }
 
 bool KTProductCheckerRegistry::isValid(const KTProductType &type, KTProductCheckerType checkerType) const
 {
-    // Held over the evaluation, unlike locks elsewhere, so that threads with the same question ask the
-    // checkers once; recursive, because a checker may ask again.
+    // Held over the evaluation, so that threads with the same question ask the checkers once; recursive,
+    // because a checker may ask again.
     const QMutexLocker locker(&myMutex);
     const QPair<KTProductType, KTProductCheckerType> question(type, checkerType);
     const auto remembered = myCache.constFind(question);
     if (remembered != myCache.constEnd())
         return *remembered;
     // The iterator is not used again: what a checker asks changes the cache.
+    const quint32 generation = myGeneration;
     const bool valid = isValidWorker(type, checkerType);
-    myCache.insert(question, valid);
+    // Not remembered when a checker changed the registration meanwhile: that invalidates every answer.
+    if (generation == myGeneration)
+        myCache.insert(question, valid);
     return valid;
 }
 

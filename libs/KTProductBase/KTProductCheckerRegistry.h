@@ -55,4 +55,6 @@ private:
     QList<KTProductChecker *> myCheckers;
     mutable QRecursiveMutex myMutex;
     mutable QHash<QPair<KTProductType, KTProductCheckerType>, bool> myCache;
+    /** Counts how often the answers became invalid. */
+    quint32 myGeneration = 0;
 };

@@ -2,8 +2,8 @@
 
 #include "ktproductbase_export.h"
 
-#include <QMetaType>
 #include <QString>
+#include <QTypeInfo>
 
 class KTPriceClass;
 class QDomElement;

@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QMessageLogger>
+#include <QSet>
 
 #include <algorithm>
 
@@ -73,8 +74,14 @@ void KTProductTypeList::addWithoutDoubles(const KTProductTypeList &other)
 {
     // A copy, because the other list may be this one, which must not change under the loop.
     const KTProductTypeList types = other;
-    for (const KTProductType &type : types)
+    QSet<KTProductType> present(begin(), end());
+    for (const KTProductType &type : types) {
+        if (present.contains(type))
+            continue;
         addWithoutDoubles(type);
+        if (type.isValid())
+            present.insert(type);
+    }
 }
 
 QDebug operator<<(QDebug stream, const KTProductTypeList &types)

@@ -3,6 +3,7 @@
 #include "KTProductType.h"
 
 #include <QList>
+#include <QMetaType>
 #include <QStringList>
 
 /** Product types in the order they were added; one may stand in it twice. */

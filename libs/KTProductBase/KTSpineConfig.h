@@ -59,8 +59,8 @@ public:
     [[nodiscard]] QString dump() const;
 
     /**
-     * True when all fields are equal. Base and block width may differ by rounding, since they are sums in
-     * some catalogues; the additional width must be the same number.
+     * True when all fields are equal. Base and block width may differ by rounding; the additional width
+     * must be the same number.
      */
     bool operator==(const KTSpineConfig &other) const;
     bool operator!=(const KTSpineConfig &other) const { return !(*this == other); }

@@ -19,14 +19,15 @@ public:
      */
     static T *instance()
     {
-        static QReadWriteLock lock;
+        // Not destroyed, like the instance: destructors at the end of the process may still ask.
+        static auto *const lock = new QReadWriteLock;
         static T *myInstance = nullptr;
         {
-            const QReadLocker locker(&lock);
+            const QReadLocker locker(lock);
             if (myInstance)
                 return myInstance;
         }
-        const QWriteLocker locker(&lock);
+        const QWriteLocker locker(lock);
         if (!myInstance) {
             myInstance = new T;
             myInstance->setupInstance();
