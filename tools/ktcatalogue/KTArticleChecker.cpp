@@ -21,13 +21,15 @@
 namespace {
 
 const QString PROBE_ELEMENT = QStringLiteral("probe");
-const QLatin1String XML_PREFIX("xml");
+const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
 constexpr int ARTICLE_INDEX = 0;
+constexpr QChar ORDER_TXT_SEPARATOR = u';';
 // Nine digits always fit into an int.
 constexpr int SAFE_DIGITS = 9;
 // Enough for the texts that a catalogue repeats, and no more memory than a small one takes.
 constexpr int MOST_KEPT_ANSWERS = 1000;
 constexpr int LONGEST_KEPT_TEXT = 64;
+constexpr int LONGEST_QUOTED_TEXT = 64;
 
 /** The text without a copy of its own; it must not outlive the article. */
 QString raw(QStringView text)
@@ -82,10 +84,20 @@ bool hasSeparator(QStringView text)
     return std::any_of(text.begin(), text.end(), &isSeparator);
 }
 
-/** ", did you mean 'alcolor'?", or nothing. */
+/** In quotes, shortened where nobody would read on. */
+QString quoted(const QString &text)
+{
+    return QStringLiteral("'%1'").arg(
+        text.size() <= LONGEST_QUOTED_TEXT ? text : text.left(LONGEST_QUOTED_TEXT) + QStringLiteral("[...]"));
+}
+
+/** "; did you mean 'alcolor'?", or nothing. */
 QString suggestion(const QString &word, const QStringList &candidates)
 {
-    const QString nearest = KTNearestWord::find(word, candidates);
+    if (word.size() > LONGEST_QUOTED_TEXT)
+        return QString();
+    // A word that is changed as a whole was not meant.
+    const QString nearest = KTNearestWord::find(word, candidates, std::clamp(word.size() - 1, 0, 2));
     return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean '%1'?").arg(nearest);
 }
 
@@ -163,8 +175,8 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
         return QString();
     const QString word = reading.unknown.constFirst();
     QString message = word.isEmpty()
-        ? QStringLiteral("an empty entry in '%1'").arg(text)
-        : QStringLiteral("'%1' is no keyword of %2").arg(word, QString::fromLatin1(row.name));
+        ? QStringLiteral("an empty entry in %1").arg(quoted(text))
+        : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), QString::fromLatin1(row.name));
     if (reading.unknown.size() > 1)
         message += QStringLiteral(" (nor are %1 more)").arg(reading.unknown.size() - 1);
     message += reading.readAs.isEmpty()
@@ -275,17 +287,17 @@ void KTArticleChecker::checkUnreadElement(KTElementKind parent)
     const KTCatalogueFormat &format = KTCatalogueFormat::instance();
     const QString name = myArticle->view(myElement->name).toString();
     QStringList children;
-    QString parents;
+    QString place;
     for (const QString &known : format.elementNames()) {
         if (format.element(parent, known))
             children.append(known);
         else if (known == name)
-            parents = QStringLiteral("; it belongs elsewhere");
+            place = QStringLiteral("; it belongs into '%1'").arg(format.parentName(known));
     }
     report(KTRule::UnknownElement,
-           QStringLiteral("nothing reads '%1' in '%2'; the application skips it with everything inside")
-                   .arg(name, format.elementName(parent))
-               + (parents.isEmpty() ? suggestion(name, children) : parents));
+           QStringLiteral("nothing reads %1 in '%2'; the application skips it with everything inside")
+                   .arg(quoted(name), format.elementName(parent))
+               + (place.isEmpty() ? suggestion(name, children) : place));
 }
 
 /** Finds the attributes of the present element and checks each by itself. */
@@ -329,8 +341,8 @@ void KTArticleChecker::checkAttribute(const Attribute &attribute, const KTAttrib
     case KTAttributeType::Boolean:
         if (!isReadable(row.type, text)) {
             report(KTRule::UnreadableBoolean,
-                   QStringLiteral("'%1' is neither true nor false; the application takes %2")
-                       .arg(text.toString(), QString::fromLatin1(row.replacement)),
+                   QStringLiteral("%1 is neither true nor false; the application takes %2")
+                       .arg(quoted(text.toString()), QString::fromLatin1(row.replacement)),
                    &attribute);
         }
         break;
@@ -347,12 +359,13 @@ void KTArticleChecker::checkUnknownAttribute(const Attribute &attribute, KTEleme
 {
     const QString name = myArticle->view(attribute.name).toString();
     // Declarations and attributes of XML itself are for everyone.
-    if (name.startsWith(XML_PREFIX))
+    if (std::any_of(std::begin(XML_PREFIXES), std::end(XML_PREFIXES),
+                    [&name](QLatin1String prefix) { return name.startsWith(prefix); }))
         return;
     const KTCatalogueFormat &format = KTCatalogueFormat::instance();
     report(KTRule::UnknownAttribute,
-           QStringLiteral("nothing reads '%1' of '%2'; the application behaves as if it were not there")
-                   .arg(name, format.elementName(kind))
+           QStringLiteral("nothing reads %1 of '%2'; the application behaves as if it were not there")
+                   .arg(quoted(name), format.elementName(kind))
                + suggestion(name, format.attributeNames(kind)),
            &attribute);
 }
@@ -379,8 +392,8 @@ void KTArticleChecker::checkNumber(const Attribute &attribute, const KTAttribute
         return;
     const QString text = view.toString();
     const bool isPageCount = row.element == KTElementKind::Article && *row.replacement == 0;
-    QString message = QStringLiteral("'%1' %2; the application takes %3")
-                          .arg(text, numberFault(text, row.type),
+    QString message = QStringLiteral("%1 %2; the application takes %3")
+                          .arg(quoted(text), numberFault(text, row.type),
                                isPageCount ? QStringLiteral("the default: %1").arg(pageCountsText())
                                            : QString::fromLatin1(row.replacement));
     const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
@@ -396,8 +409,8 @@ void KTArticleChecker::checkUnit(const Attribute &attribute)
     if (KTArticleModel::readUnit(probe({Role::Units})).hasExactlyOneBit())
         return;
     report(KTRule::UnknownUnit,
-           QStringLiteral("'%1' is no unit; the application takes the numbers as layout units of 0.1 mm")
-                   .arg(text)
+           QStringLiteral("%1 is no unit; the application takes the numbers as layout units of 0.1 mm")
+                   .arg(quoted(text))
                + suggestion(text,
                             readableKeywords(*KTClassification::ofClass(QStringLiteral("KTDistanceUnit")))),
            &attribute);
@@ -409,8 +422,8 @@ void KTArticleChecker::checkColor(const Attribute &attribute, const KTAttributeR
     if (text.isEmpty() || QColor::isValidColor(raw(text)))
         return;
     report(KTRule::UnknownColor,
-           QStringLiteral("'%1' is no colour; the application takes %2")
-                   .arg(text.toString(), QString::fromLatin1(row.replacement))
+           QStringLiteral("%1 is no colour; the application takes %2")
+                   .arg(quoted(text.toString()), QString::fromLatin1(row.replacement))
                + suggestion(text.toString(), QColor::colorNames()),
            &attribute);
 }
@@ -460,9 +473,8 @@ void KTArticleChecker::checkPriceClass()
     const QString family = priceClassFamily(code);
     if (!priceClassFamilies().contains(family)) {
         report(KTRule::UnknownPriceClass,
-               QStringLiteral(
-                   "'%1' is no known family of price classes; the application bills '%2' as it stands")
-                       .arg(family, code)
+               QStringLiteral("%1 is no known family of price classes; the application bills %2 as it stands")
+                       .arg(quoted(family), quoted(code))
                    + suggestion(family, priceClassFamilies()),
                found(Role::PriceClass));
     }
@@ -563,12 +575,10 @@ void KTArticleChecker::checkOption()
     const QPair<QStringView, QStringView> option(key, value);
     const auto earlier = myOptionLines.constFind(option);
     if (earlier != myOptionLines.constEnd()) {
-        report(
-            KTRule::DuplicateOption,
-            QStringLiteral("'%1' with '%2' stands in line %3 already; the application lists it again, but an "
-                           "order cannot tell the two")
-                .arg(key.toString(), value.toString())
-                .arg(*earlier));
+        report(KTRule::DuplicateOption,
+               QStringLiteral("%1 with %2 stands in line %3 already; the application lists it again, but an "
+                              "order cannot tell the two")
+                   .arg(quoted(key.toString()), quoted(value.toString()), QString::number(*earlier)));
     } else {
         myOptionLines.insert(option, myElement->position.line);
     }
@@ -592,34 +602,35 @@ void KTArticleChecker::checkCompound(const QString &key, const QString &value)
     const KTArticleVariants option(key, value);
     const KTArticleVariants production = option.toXTCI();
     if (!production.isValid()) {
-        report(
-            KTRule::CompoundParts,
-            QStringLiteral("'%1' and '%2' have different numbers of parts; the order text and the production "
-                           "form leave the option out")
-                .arg(key, value),
-            found(Role::Value));
+        report(KTRule::CompoundParts,
+               QStringLiteral("%1 and %2 have different numbers of parts; the order text and the production "
+                              "form leave the option out")
+                   .arg(quoted(key), quoted(value)),
+               found(Role::Value));
         return;
     }
     const QString mcf = option.toMCF();
-    if (KTArticleVariants::createFromMCF(mcf) != option) {
-        report(KTRule::ReservedCharacter,
-               QStringLiteral("the application writes the option as '%1' in MCF, which reads back as '%2'")
-                   .arg(mcf, KTVariantsText::mcf(KTArticleVariants::createFromMCF(mcf))),
-               found(hasSeparator(key) ? Role::Key : Role::Value));
+    const KTArticleVariants fromMcf = KTArticleVariants::createFromMCF(mcf);
+    if (fromMcf != option) {
+        reportLoss(QStringLiteral("MCF"), mcf, fromMcf);
         return;
     }
     const QString orderText = option.toOrderTxt();
-    KTArticleVariants readBack;
-    for (const QString &pair : orderText.split(QLatin1Char(';')))
-        readBack.insert(KTArticleVariants(pair));
-    if (readBack != production) {
-        report(
-            KTRule::ReservedCharacter,
-            QStringLiteral("the application writes the option as '%1' in the order text, which reads back as "
-                           "'%2'")
-                .arg(orderText, KTVariantsText::mcf(readBack)),
-            found(hasSeparator(key) ? Role::Key : Role::Value));
-    }
+    KTArticleVariants fromOrderText;
+    for (const QString &pair : orderText.split(ORDER_TXT_SEPARATOR))
+        fromOrderText.insert(KTArticleVariants(pair));
+    if (fromOrderText != production)
+        reportLoss(QStringLiteral("the order text"), orderText, fromOrderText);
+}
+
+void KTArticleChecker::reportLoss(const QString &form, const QString &text, const KTArticleVariants &readBack)
+{
+    const QString result
+        = readBack.isValid() ? quoted(KTVariantsText::mcf(readBack)) : QStringLiteral("nothing");
+    report(KTRule::ReservedCharacter,
+           QStringLiteral("the application writes the option as %1 in %2, which reads back as %3")
+               .arg(quoted(text), form, result),
+           found(hasSeparator(this->text(Role::Key)) ? Role::Key : Role::Value));
 }
 
 void KTArticleChecker::enterBarcodes()
@@ -659,12 +670,12 @@ void KTArticleChecker::checkBarcode()
                    .arg(*earlier));
     }
     if (!hasImage(barcode)) {
-        report(KTRule::BarcodeImage,
-               QStringLiteral(
-                   "'%1' is no picture below 'icons/picshelf' of the resources; the application shows "
-                   "no barcode")
-                   .arg(barcode.imageName()),
-               found(Role::Image));
+        report(
+            KTRule::BarcodeImage,
+            QStringLiteral("%1 is no picture below 'icons/picshelf' of the resources; the application shows "
+                           "no barcode")
+                .arg(quoted(barcode.imageName())),
+            found(Role::Image));
     }
 }
 
@@ -698,9 +709,9 @@ void KTArticleChecker::checkPreselections()
         myElement = it->element;
         const QString key = it.key().toString();
         report(KTRule::SeveralPreselected,
-               QStringLiteral("%1 options of '%2' are preselected; the application takes the last one, '%3'")
+               QStringLiteral("%1 options of %2 are preselected; the application takes the last one, %3")
                    .arg(it->count)
-                   .arg(key, winners.value(key, QString())),
+                   .arg(quoted(key), quoted(winners.value(key, QString()))),
                it->attribute);
     }
 }

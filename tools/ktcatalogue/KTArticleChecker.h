@@ -10,6 +10,8 @@
 
 #include <array>
 
+class KTArticleVariants;
+
 /**
  * Finds what is wrong inside of single articles.
  *
@@ -60,6 +62,7 @@ private:
     void checkSpine();
     void checkOption();
     void checkCompound(const QString &key, const QString &value);
+    void reportLoss(const QString &form, const QString &text, const KTArticleVariants &readBack);
     void enterBarcodes();
     void checkBarcode();
     bool hasImage(const KTBarcodeDefinition &barcode);

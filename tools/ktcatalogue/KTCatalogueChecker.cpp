@@ -73,8 +73,11 @@ bool KTCatalogueChecker::check(const QString &name, QIODevice *device)
     }
     if (reader.errorKind() == KTCatalogueErrorKind::None)
         return true;
+    QString text = reader.errorText();
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
     reportFile(ruleOf(reader.errorKind()), name, reader.errorPosition(),
-               QStringLiteral("%1; the application refuses the file").arg(reader.errorText()));
+               text + QStringLiteral("; the application refuses the file"));
     return false;
 }
 

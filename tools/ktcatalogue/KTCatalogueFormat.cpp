@@ -116,6 +116,14 @@ QString KTCatalogueFormat::elementName(Kind kind) const
     return row == std::end(ELEMENTS) ? QString() : QString::fromLatin1(row->name);
 }
 
+QString KTCatalogueFormat::parentName(const QString &name) const
+{
+    const auto *const row
+        = std::find_if(std::begin(ELEMENTS), std::end(ELEMENTS),
+                       [&name](const KTElementRow &element) { return name == QLatin1String(element.name); });
+    return row == std::end(ELEMENTS) ? QString() : elementName(row->parent);
+}
+
 const KTAttributeRow *KTCatalogueFormat::attribute(Kind element, QStringView name) const
 {
     return myIndex.at(static_cast<int>(element)).value(name, nullptr);

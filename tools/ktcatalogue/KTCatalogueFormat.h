@@ -86,6 +86,8 @@ public:
     /** The element with the name in the parent; null when nothing reads it there. */
     const KTElementRow *element(KTElementKind parent, QStringView name) const;
     QString elementName(KTElementKind kind) const;
+    /** The name of the element that the one with this name belongs into. */
+    QString parentName(const QString &name) const;
     /** The attribute of the element; null when nothing reads it. */
     const KTAttributeRow *attribute(KTElementKind element, QStringView name) const;
 

@@ -8,7 +8,6 @@
 
 #include <QFile>
 
-#include <cerrno>
 #include <cstdio>
 #include <limits>
 #include <unistd.h>
@@ -122,7 +121,7 @@ KTExitCode checkFiles(const QStringList &names, const Options &options)
         options.severities);
     checker.setListener([&](int articles) {
         if (progress.isDue())
-            progress.show(QStringLiteral("%1: %2 articles").arg(name).arg(articles));
+            progress.show(QStringLiteral("%1: %2 articles").arg(name, QString::number(articles)));
     });
 
     writer->begin();
@@ -133,15 +132,15 @@ KTExitCode checkFiles(const QStringList &names, const Options &options)
             ++ofFile.unreadable;
         total.add(ofFile);
         progress.clear();
-        writer->flush();
+        if (!writer->flush())
+            break;
         if (!options.isQuiet)
             KTCommandLine::fail(KTExitSuccess, QStringLiteral("%1: %2").arg(name, ofFile.toText()));
     }
     writer->end(total);
-    errno = 0;
     if (!writer->flush()) {
         // A reader that has seen enough needs no message.
-        return errno == EPIPE
+        return writer->isReaderGone()
             ? KTExitUnreadable
             : KTCommandLine::fail(KTExitUnreadable, QStringLiteral("the output cannot be written"));
     }
@@ -155,7 +154,7 @@ KTExitCode checkFiles(const QStringList &names, const Options &options)
     }
     if (total.unreadable > 0)
         return KTExitUnreadable;
-    return isFailed ? KTExitUnanswerable : KTExitSuccess;
+    return isFailed ? KTExitFindings : KTExitSuccess;
 }
 
 } // namespace

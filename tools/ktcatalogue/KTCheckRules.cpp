@@ -17,8 +17,8 @@ constexpr KTRuleRow RULES[] = {
          "The application has no articles from it. Look at the file's name and its permissions."),
     rule(KTRule::NotWellFormed, "not-well-formed", KTSeverity::Error,
          "the file is no catalogue in well-formed XML in UTF-8",
-         "The application refuses the whole file, also the articles before the place. What the checker found "
-         "before it is still reported; what follows it is not looked at."),
+         "The application refuses the whole file, also the articles before the place. What the checker "
+         "found before it is still reported; what follows it is not looked at."),
     rule(KTRule::LimitExceeded, "limit-exceeded", KTSeverity::Error, "the file exceeds a limit of the format",
          "Levels of elements, attributes of one element and lengths of values are limited, and there are no "
          "document type declarations, so that no file costs time or memory out of proportion. The file is "
@@ -27,19 +27,16 @@ constexpr KTRuleRow RULES[] = {
          "nothing reads an element in this place",
          "The application skips the element with everything inside. It is misspelt, or belongs elsewhere."),
     rule(KTRule::UnknownAttribute, "unknown-attribute", KTSeverity::Warning, "nothing reads an attribute",
-         "The application behaves as if it were not there; where a misspelt attribute was meant, the default "
-         "of "
-         "that one counts."),
+         "The application behaves as if it were not there; where a misspelt attribute was meant, the "
+         "default of that one counts."),
     rule(KTRule::RepeatedElement, "repeated-element", KTSeverity::Warning,
          "an element of which only the first one is read stands there again",
          "Of 'forms', 'composition', 'spine' and 'barcodes' only the first one in its parent is read. The "
-         "further "
-         "ones are skipped, so move their content to the first."),
+         "further ones are skipped, so move their content to the first."),
     rule(KTRule::IgnoredAttribute, "ignored-attribute", KTSeverity::Hint,
          "an attribute means nothing for this kind of article",
          "A picture box has no 'pieces', and the advent calendars with printed door backs always have the "
-         "same "
-         "number of pages, whatever is written."),
+         "same number of pages, whatever is written."),
     rule(KTRule::NoArticleId, "no-article-id", KTSeverity::Error, "an article has no positive number",
          "Neither 'art_id' nor 'id' is a positive number, so no order can name the article."),
     rule(KTRule::DuplicateId, "duplicate-id", KTSeverity::Error,
@@ -53,28 +50,24 @@ constexpr KTRuleRow RULES[] = {
     rule(KTRule::UnknownKeyword, "unknown-keyword", KTSeverity::Warning,
          "a classification has an entry that is no keyword",
          "The entry silently counts as the default of its class, alone or in union with the other entries. "
-         "Letter "
-         "case and blanks around an entry do not matter."),
+         "Letter case and blanks around an entry do not matter."),
     rule(KTRule::UnknownPriceClass, "unknown-price-class", KTSeverity::Hint,
          "a price class belongs to no known family",
          "The letters before the number name the family. The application bills the code as it stands, but "
-         "knows "
-         "no kind of add-on, album or calendar for it."),
+         "knows no kind of add-on, album or calendar for it."),
     rule(KTRule::ShippingGroup, "shipping-group", KTSeverity::Warning, "a shipping group is no number",
          "The article is read as one of no shipping group."),
-    rule(
-        KTRule::UnreadableNumber, "unreadable-number", KTSeverity::Warning,
-        "a number is unreadable, not finite or out of range",
-        "The default counts in its place. Numbers are written with a decimal point and without a unit; whole "
-        "numbers have 32 bits."),
+    rule(KTRule::UnreadableNumber, "unreadable-number", KTSeverity::Warning,
+         "a number is unreadable, not finite or out of range",
+         "The default counts in its place. Numbers are written with a decimal point and without a unit; "
+         "whole numbers have 32 bits."),
     rule(KTRule::UnreadableBoolean, "unreadable-boolean", KTSeverity::Warning,
          "a text is neither true nor false",
          "Only 'true', 'false', '1' and '0' are read, in any letter case; everything else counts as the "
          "default."),
-    rule(
-        KTRule::UnknownUnit, "unknown-unit", KTSeverity::Error, "a unit of length is unknown",
-        "The application takes the numbers as layout units of 0.1 mm. Known are 'mm', 'cm', 'inch', 'pt' and "
-        "'layoutunit', one at a time."),
+    rule(KTRule::UnknownUnit, "unknown-unit", KTSeverity::Error, "a unit of length is unknown",
+         "The application takes the numbers as layout units of 0.1 mm. Known are 'mm', 'cm', 'inch', 'pt' "
+         "and 'layoutunit', one at a time."),
     rule(KTRule::UnknownColor, "unknown-color", KTSeverity::Warning, "a colour is unknown",
          "The option gets no swatch. Colours are '#RGB', '#RRGGBB', '#AARRGGBB' or SVG colour names."),
     rule(KTRule::PageCountRange, "page-count-range", KTSeverity::Error,
@@ -102,11 +95,9 @@ constexpr KTRuleRow RULES[] = {
     rule(KTRule::ReservedCharacter, "reserved-character", KTSeverity::Error,
          "a key or value does not survive the MCF form or the order text",
          "',', ':', '|' and '+' separate the pairs of these forms and their parts, ';' those of the order "
-         "text, "
-         "and '%1' and '%2' are filled in. What is read back is not what was chosen."),
-    rule(
-        KTRule::DuplicateOption, "duplicate-option", KTSeverity::Warning, "an option is there twice",
-        "Key and value name an option, so the second one can never be told from the first. Lists show both."),
+         "text, and '%1' and '%2' are filled in. What is read back is not what was chosen."),
+    rule(KTRule::DuplicateOption, "duplicate-option", KTSeverity::Warning, "an option is there twice",
+         "Key and value name an option, so nobody can tell the second one from the first. Lists show both."),
     rule(KTRule::SeveralPreselected, "several-preselected", KTSeverity::Warning,
          "several options of one key are preselected", "The last one is the default choice."),
     rule(KTRule::BarcodeDropped, "barcode-dropped", KTSeverity::Error, "a barcode is dropped",

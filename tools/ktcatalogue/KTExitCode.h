@@ -5,6 +5,8 @@ enum KTExitCode : int {
     KTExitSuccess = 0,
     /** The catalogue has no answer to the question. */
     KTExitUnanswerable = 1,
+    /** Something is wrong with a catalogue. */
+    KTExitFindings = 1,
     /** A file cannot be read or written, or is no catalogue. */
     KTExitUnreadable = 2,
     KTExitUsage = 64,

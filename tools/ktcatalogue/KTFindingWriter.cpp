@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QUrl>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace {
@@ -64,10 +65,10 @@ public:
 
     void write(const KTFinding &finding) override
     {
-        const QString place = KTTerminalText::visible(QStringLiteral("%1:%2:%3:")
-                                                          .arg(finding.file)
-                                                          .arg(finding.position.line)
-                                                          .arg(finding.position.column));
+        const QString place
+            = KTTerminalText::visible(QStringLiteral("%1:%2:%3:")
+                                          .arg(finding.file, QString::number(finding.position.line),
+                                               QString::number(finding.position.column)));
         const QString severity = KTCheckRules::name(finding.severity) + QLatin1Char(':');
         const QString rest = KTTerminalText::visible(finding.message)
             + QStringLiteral(" [%1]\n").arg(KTCheckRules::name(finding.rule));
@@ -280,12 +281,20 @@ KTFindingWriter::~KTFindingWriter() = default;
 
 bool KTFindingWriter::flush()
 {
-    myIsComplete = myOutput.flush() && myIsComplete;
+    if (myIsComplete && !myOutput.flush())
+        fail();
     return myIsComplete;
 }
 
 void KTFindingWriter::print(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    myIsComplete = myIsComplete && myOutput.write(bytes) == bytes.size();
+    if (myIsComplete && myOutput.write(bytes) != bytes.size())
+        fail();
+}
+
+void KTFindingWriter::fail()
+{
+    myIsReaderGone = errno == EPIPE;
+    myIsComplete = false;
 }

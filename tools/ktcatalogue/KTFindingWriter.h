@@ -39,12 +39,17 @@ public:
     virtual void end(const KTFindingCounts &counts) = 0;
     /** False when anything could not be written. */
     bool flush();
+    /** True when that is because nobody reads the output any more. */
+    bool isReaderGone() const { return myIsReaderGone; }
 
 protected:
     KTFindingWriter();
     void print(const QString &text);
 
 private:
+    void fail();
+
     QFile myOutput;
     bool myIsComplete;
+    bool myIsReaderGone = false;
 };
