@@ -15,3 +15,6 @@ run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/consumer" -B "${SCRATCH_DIR}/bui
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/build")
 run("${SCRATCH_DIR}/build/consumer")
 run("${SCRATCH_DIR}/moved/bin/ktcatalogue" --version)
+# A drawing needs neither a display nor an environment.
+run(${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM "${SCRATCH_DIR}/moved/bin/ktcatalogue" preview
+    "${SOURCE_DIR}/../examples/catalogue.xml" --article 7301 -o "${SCRATCH_DIR}/cover.svg")

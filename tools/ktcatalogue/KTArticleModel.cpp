@@ -93,3 +93,14 @@ QPair<int, int> KTArticleModel::validPagesAround(int wish) const
     const int above = pageCounts.constrain(wish);
     return {std::min(below, last), std::min(above, last)};
 }
+
+QString KTArticleModel::objectionToPages(int wish) const
+{
+    if (pageCounts.isValidPageCount(wish))
+        return QString();
+    const QPair<int, int> nearest = validPagesAround(wish);
+    const QString valid = nearest.first == nearest.second
+        ? QString::number(nearest.first)
+        : QStringLiteral("%1 and %2").arg(nearest.first).arg(nearest.second);
+    return QStringLiteral("cannot have %1 pages; the nearest valid page counts: %2").arg(wish).arg(valid);
+}

@@ -38,6 +38,8 @@ struct KTArticleModel
 
     /** The valid page counts next below and above the wish; twice the wish if it is one itself. */
     QPair<int, int> validPagesAround(int pages) const;
+    /** What is wrong with the page count, as a predicate of the article; empty for a valid one. */
+    QString objectionToPages(int pages) const;
 
     KTArticleId articleId;
     QString name;

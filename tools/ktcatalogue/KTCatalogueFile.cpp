@@ -18,6 +18,14 @@ KTCatalogueFile::KTCatalogueFile(const QString &name)
         myReader = std::make_unique<KTCatalogueReader>(&myFile);
 }
 
+std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optional<KTArticleModel> *article)
+{
+    return forEachArticle([=](const KTCatalogueArticle &candidate) {
+        if (!*article && KTArticleId::findId(candidate.element()) == articleId)
+            article->emplace(candidate.element());
+    });
+}
+
 std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
 {
     if (!myReader) {

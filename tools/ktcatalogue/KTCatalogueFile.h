@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTArticleModel.h"
 #include "KTCatalogueReader.h"
 #include "KTExitCode.h"
 
@@ -27,6 +28,9 @@ public:
             function(article);
         return reportFailure();
     }
+
+    /** Reads the first article with the number, if there is one, and the file to its end as above. */
+    std::optional<KTExitCode> readArticle(int articleId, std::optional<KTArticleModel> *article);
 
 private:
     std::optional<KTExitCode> reportFailure() const;

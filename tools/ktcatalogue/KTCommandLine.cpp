@@ -94,6 +94,12 @@ KTExitCode KTCommandLine::failNoArticle(int articleId) const
                 QStringLiteral("%1: there is no article %2").arg(fileName()).arg(articleId));
 }
 
+KTExitCode KTCommandLine::failArticle(int articleId, const QString &objection) const
+{
+    return fail(KTExitUnanswerable,
+                QStringLiteral("%1: article %2 %3").arg(fileName()).arg(articleId).arg(objection));
+}
+
 KTExitCode KTCommandLine::print(const QString &text)
 {
     KTSpool spool;

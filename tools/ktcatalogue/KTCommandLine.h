@@ -43,6 +43,8 @@ public:
     static KTExitCode fail(KTExitCode code, const QString &message);
     static KTExitCode failUsage(const QString &message);
     KTExitCode failNoArticle(int articleId) const;
+    /** The objection is a predicate: "has no page sizes". */
+    KTExitCode failArticle(int articleId, const QString &objection) const;
     /** Prints to standard output; the exit code tells whether that worked. */
     static KTExitCode print(const QString &text);
     static KTExitCode deliver(KTSpool *spool);

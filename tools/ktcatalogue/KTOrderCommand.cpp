@@ -39,18 +39,6 @@ QString objection(const KTConfiguredArticleVariantList &options, const QString &
     return text;
 }
 
-/** What is wrong with a page count; empty for a valid one. */
-QString objection(const KTArticleModel &article, int pages)
-{
-    if (article.pageCounts.isValidPageCount(pages))
-        return QString();
-    const QPair<int, int> nearest = article.validPagesAround(pages);
-    const QString valid = nearest.first == nearest.second
-        ? QString::number(nearest.first)
-        : QStringLiteral("%1 and %2").arg(nearest.first).arg(nearest.second);
-    return QStringLiteral("cannot have %1 pages; the nearest valid page counts: %2").arg(pages).arg(valid);
-}
-
 /** What is written for an order. */
 struct Order
 {
@@ -137,12 +125,7 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
         return KTExitUsage;
 
     std::optional<KTArticleModel> article;
-    const auto failure
-        = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &candidate) {
-              if (!article && KTArticleId::findId(candidate.element()) == *wanted)
-                  article.emplace(candidate.element());
-          });
-    if (failure)
+    if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
         return *failure;
     if (!article)
         return commandLine.failNoArticle(*wanted);
@@ -151,15 +134,10 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
     for (const QString &key : chosen->keys())
         objections.append(objection(article->options, key, chosen->value(key, QString())));
     if (!pages->isEmpty())
-        objections.append(objection(*article, pages->constLast()));
+        objections.append(article->objectionToPages(pages->constLast()));
     objections.removeAll(QString());
-    if (!objections.isEmpty()) {
-        return KTCommandLine::fail(KTExitUnanswerable,
-                                   QStringLiteral("%1: article %2 %3")
-                                       .arg(commandLine.fileName())
-                                       .arg(*wanted)
-                                       .arg(objections.constFirst()));
-    }
+    if (!objections.isEmpty())
+        return commandLine.failArticle(*wanted, objections.constFirst());
 
     Order order {*article, std::nullopt, article->options.defaultVariants()};
     if (!pages->isEmpty())

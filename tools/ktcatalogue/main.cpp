@@ -2,23 +2,33 @@
 #include "KTCommandLine.h"
 #include "KTNearestWord.h"
 #include "KTOrderCommand.h"
+#include "KTPreviewCommand.h"
 #include "KTShowCommand.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace {
+
+constexpr char PLATFORM_VARIABLE[] = "QT_QPA_PLATFORM";
 
 struct CommandRow
 {
     const char *name;
     const char *description;
     KTExitCode (*run)(const QStringList &arguments);
+    /** Draws text, for which Qt wants more than a QCoreApplication. */
+    bool isDrawing = false;
 };
 
 constexpr CommandRow COMMANDS[] = {
-    {"show",  "Shows what the library makes of each article.",           &KTShowCommand::run },
-    {"check", "Finds what the library passes over in silence.",          &KTCheckCommand::run},
-    {"order", "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run},
+    {"show",    "Shows what the library makes of each article.",           &KTShowCommand::run,    false},
+    {"check",   "Finds what the library passes over in silence.",          &KTCheckCommand::run,   false},
+    {"order",   "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run,   false},
+    {"preview", "Draws the cover of an article to scale.",                 &KTPreviewCommand::run, true },
 };
 
 QString help()
@@ -70,12 +80,35 @@ void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
     KTCommandLine::fail(KTExitSuccess, QStringLiteral("ktcatalogue: %1").arg(text));
 }
 
+void printIfFatal(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (type == QtFatalMsg)
+        printMessage(type, context, text);
+}
+
+/** Drawing needs fonts but no display. */
+std::unique_ptr<QCoreApplication> createApplication(int &argc, char *argv[])
+{
+    const QLatin1String command(argc > 1 ? argv[1] : "");
+    const bool isDrawing
+        = std::any_of(std::begin(COMMANDS), std::end(COMMANDS), [command](const CommandRow &row) {
+              return row.isDrawing && command == QLatin1String(row.name);
+          });
+    if (!isDrawing)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (!qEnvironmentVariableIsSet(PLATFORM_VARIABLE))
+        qputenv(PLATFORM_VARIABLE, "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    // Until then Qt only remarks on the desktop that it does not find.
+    qInstallMessageHandler(&printIfFatal);
+    const std::unique_ptr<QCoreApplication> application = createApplication(argc, argv);
     qInstallMessageHandler(&printMessage);
-    const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("ktcatalogue"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(KT_VERSION));
     return run(QCoreApplication::arguments().mid(1));

@@ -1,0 +1,172 @@
+#include "KTPreviewCommand.h"
+
+#include "KTArticleModel.h"
+#include "KTCatalogueFile.h"
+#include "KTCommandLine.h"
+#include "KTPreviewPainter.h"
+
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QImage>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+
+namespace {
+
+/** At this resolution a dot is a layout unit, so vector formats need no scaling. */
+constexpr int LAYOUT_UNITS_PER_INCH = 254;
+constexpr int LAYOUT_UNITS_PER_MILLIMETER = 10;
+constexpr int IMAGE_DOTS_PER_MILLIMETER = 6;
+
+bool paintOn(QPaintDevice *device, const KTPreviewPainter &preview, double scale)
+{
+    QPainter painter;
+    if (!painter.begin(device))
+        return false;
+    painter.scale(scale, scale);
+    preview.paint(&painter);
+    return painter.end();
+}
+
+bool writeSvg(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+{
+    QSvgGenerator generator;
+    generator.setOutputDevice(file);
+    generator.setResolution(LAYOUT_UNITS_PER_INCH);
+    generator.setSize(preview.sheetSize());
+    generator.setViewBox(QRect(QPoint(), preview.sheetSize()));
+    // Qt writes the title as it is.
+    generator.setTitle(title.toHtmlEscaped());
+    return paintOn(&generator, preview, 1.0);
+}
+
+bool writePng(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+{
+    constexpr double SCALE = double(IMAGE_DOTS_PER_MILLIMETER) / LAYOUT_UNITS_PER_MILLIMETER;
+    QImage image(preview.sheetSize() * SCALE, QImage::Format_RGB32);
+    // The last row of dots may be covered in part only.
+    image.fill(Qt::white);
+    image.setDotsPerMeterX(IMAGE_DOTS_PER_MILLIMETER * 1000);
+    image.setDotsPerMeterY(IMAGE_DOTS_PER_MILLIMETER * 1000);
+    image.setText(QStringLiteral("Title"), title);
+    return paintOn(&image, preview, SCALE) && image.save(file, "PNG");
+}
+
+bool writePdf(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+{
+    QPdfWriter writer(file);
+    writer.setResolution(LAYOUT_UNITS_PER_INCH);
+    writer.setTitle(title);
+    writer.setPageSize(QPageSize(QSizeF(preview.sheetSize()) / LAYOUT_UNITS_PER_MILLIMETER,
+                                 QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    return paintOn(&writer, preview, 1.0);
+}
+
+struct FormatRow
+{
+    const char *ending;
+    bool (*write)(QIODevice *file, const KTPreviewPainter &preview, const QString &title);
+};
+
+constexpr FormatRow FORMATS[] = {
+    {"svg", &writeSvg},
+    {"png", &writePng},
+    {"pdf", &writePdf},
+};
+
+const FormatRow *formatOf(const QString &fileName)
+{
+    const QString ending = QFileInfo(fileName).suffix().toLower();
+    for (const FormatRow &row : FORMATS) {
+        if (ending == QLatin1String(row.ending))
+            return &row;
+    }
+    return nullptr;
+}
+
+/** What forbids writing to the file; empty for nothing. */
+QString objectionTo(const QFileInfo &output, const QFileInfo &catalogue)
+{
+    if (!output.exists())
+        return QString();
+    if (!output.isFile())
+        return QStringLiteral("it is no regular file");
+    if (output.canonicalFilePath() == catalogue.canonicalFilePath())
+        return QStringLiteral("it is the catalogue");
+    return QString();
+}
+
+} // namespace
+
+KTExitCode KTPreviewCommand::run(const QStringList &arguments)
+{
+    KTCommandLine commandLine(
+        QStringLiteral("preview"),
+        QStringLiteral(
+            "Draws the cover of an article to scale: usable area, bleed, spine, slipcase cover and "
+            "barcodes, with dimensions in millimetres and the options on offer."),
+        QStringLiteral("examples/catalogue.xml --article 7301 --pages 90 -o cover.svg"));
+    const QCommandLineOption articleOption(
+        QStringLiteral("article"), QStringLiteral("The number of the article."), QStringLiteral("ID"));
+    const QCommandLineOption pagesOption(QStringLiteral("pages"),
+                                         QStringLiteral("The page count; the least one by default."),
+                                         QStringLiteral("N"));
+    const QCommandLineOption outputOption(
+        {QStringLiteral("o"), QStringLiteral("output")},
+        QStringLiteral(
+            "Writes to OUT, whose ending says the format: .svg, .png or .pdf. A file that is there "
+            "is replaced once the drawing is complete."),
+        QStringLiteral("OUT"));
+    commandLine.parser().addOptions({articleOption, pagesOption, outputOption});
+    if (const auto code = commandLine.parse(arguments))
+        return *code;
+
+    const std::optional<int> wanted = commandLine.number(articleOption);
+    if (!wanted)
+        return KTExitUsage;
+    const std::optional<QList<int>> pages = commandLine.numbers(pagesOption);
+    if (!pages)
+        return KTExitUsage;
+    const QString output = commandLine.parser().value(outputOption);
+    if (output.isEmpty())
+        return KTCommandLine::failUsage(QStringLiteral("'preview' needs -o OUT"));
+    const FormatRow *const format = formatOf(output);
+    if (!format)
+        return KTCommandLine::failUsage(
+            QStringLiteral("'%1' does not end in .svg, .png or .pdf").arg(output));
+
+    std::optional<KTArticleModel> article;
+    if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
+        return *failure;
+    if (!article)
+        return commandLine.failNoArticle(*wanted);
+    QString objection = pages->isEmpty() ? QString() : article->objectionToPages(pages->constLast());
+    std::optional<KTPreviewModel> model;
+    if (objection.isEmpty()) {
+        const int count = pages->isEmpty() ? article->pageCounts.minPages() : pages->constLast();
+        model = KTPreviewModel::create(*article, count, &objection);
+    }
+    if (!model)
+        return commandLine.failArticle(*wanted, objection);
+
+    const auto fail = [&output](const QString &reason) {
+        return KTCommandLine::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(output, reason));
+    };
+    const QString forbidden = objectionTo(QFileInfo(output), QFileInfo(commandLine.fileName()));
+    if (!forbidden.isEmpty())
+        return fail(forbidden);
+    if (QFontDatabase().families().isEmpty())
+        return fail(QStringLiteral("no font is installed, so the drawing would have no text"));
+    QSaveFile file(output);
+    if (!file.open(QIODevice::WriteOnly))
+        return fail(file.errorString());
+    if (!format->write(&file, KTPreviewPainter(*model), model->title))
+        return fail(QStringLiteral("the drawing cannot be written"));
+    if (!file.commit())
+        return fail(file.errorString());
+    return KTExitSuccess;
+}

@@ -1,0 +1,272 @@
+#include "KTPreviewModel.h"
+
+#include "KTArticleModel.h"
+#include "KTTerminalText.h"
+
+#include <QMap>
+
+#include <algorithm>
+#include <cmath>
+
+using KTTerminalText::visible;
+
+namespace {
+
+constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
+/** More pages with barcodes would make the cover too small. */
+constexpr int MOST_INNER_PAGES = 2;
+constexpr int COVER_PAGE = 0;
+
+// The first kind that an article has is what its preview shows; any page is better than none.
+constexpr KTPageTypeEnum COVER_KINDS[] = {
+    static_cast<KTPageTypeEnum>(KTPageTypeFullcover | KTPageTypeCromolinen | KTPageTypeLeather),
+    static_cast<KTPageTypeEnum>(KTPageTypeCalendarcoverfront | KTPageTypeCardfront),
+};
+
+using Page = KTArticleModel::Page;
+
+QString millimeters(double layoutUnits)
+{
+    return QString::number(layoutUnits / LAYOUT_UNITS_PER_MILLIMETER, 'f', 1);
+}
+
+QString millimeters(const QSizeF &size)
+{
+    return QStringLiteral("%1 × %2").arg(millimeters(size.width()), millimeters(size.height()));
+}
+
+bool isDrawable(double length, double minimum)
+{
+    return std::isfinite(length) && length >= minimum && length <= KTPreviewModel::MAXIMUM_LENGTH;
+}
+
+bool isDrawable(const QSize &size)
+{
+    return isDrawable(size.width(), KTPreviewModel::MINIMUM_LENGTH)
+        && isDrawable(size.height(), KTPreviewModel::MINIMUM_LENGTH);
+}
+
+QString objectionTo(const QString &part, const QString &size)
+{
+    return QStringLiteral("has a %1 of %2 mm; a preview shows sides from %3 to %4 mm")
+        .arg(part, size, millimeters(KTPreviewModel::MINIMUM_LENGTH),
+             millimeters(KTPreviewModel::MAXIMUM_LENGTH));
+}
+
+/** What cannot be drawn of the page; empty for nothing. */
+QString objectionTo(const Page &page)
+{
+    const QString kind = page.context.pageType().encode();
+    if (!isDrawable(page.size.usableSize()))
+        return objectionTo(QStringLiteral("page '%1'").arg(kind), millimeters(page.size.usableSize()));
+    const KTMargins bleed = page.size.bleedMargins();
+    for (const int margin : {bleed.top(), bleed.bottom(), bleed.left(), bleed.right()}) {
+        if (!isDrawable(margin, 0.0))
+            return QStringLiteral("has a bleed of %1 mm; a preview shows 0.0 to %2 mm")
+                .arg(millimeters(margin), millimeters(KTPreviewModel::MAXIMUM_LENGTH));
+    }
+    const QSize slipcase = page.size.usableSlipcaseCoverSize();
+    if (slipcase != QSize(-1, -1) && !isDrawable(slipcase))
+        return objectionTo(QStringLiteral("slipcase cover"), millimeters(slipcase));
+    return QString();
+}
+
+KTPreviewModel::Panel panelOf(const Page &page, const QString &name, const QPointF &corner)
+{
+    KTPreviewModel::Panel panel {name, QRectF(corner, page.size.usableSize()), QRectF()};
+    if (page.size.usableSlipcaseCoverSize().isValid())
+        panel.slipcase = QRectF(corner + page.size.slipcaseTranslationPoint(),
+                                QSizeF(page.size.usableSlipcaseCoverSize()));
+    return panel;
+}
+
+KTPreviewModel::Figure figureOf(const Page &page, const QString &name)
+{
+    KTPreviewModel::Figure figure;
+    figure.name = name;
+    figure.total = QRectF(QPointF(), page.size.totalSize());
+    figure.panels = {panelOf(page, name, page.size.topLeftOffsetOfUsablePrintArea())};
+    return figure;
+}
+
+/** Back, spine and front as they lie side by side; bleed is only on the outside. */
+KTPreviewModel::Figure spreadOf(const Page &back, const Page &front, double spineWidth)
+{
+    const KTMargins backBleed = back.size.bleedMargins();
+    const KTMargins frontBleed = front.size.bleedMargins();
+    const double top = std::max(backBleed.top(), frontBleed.top());
+    KTPreviewModel::Figure figure;
+    figure.name = QStringLiteral("Cover");
+    figure.panels = {panelOf(back, QStringLiteral("Back"), QPointF(backBleed.left(), top))};
+    const QRectF left = figure.panels.constFirst().usable;
+    figure.panels.append(panelOf(front, QStringLiteral("Front"), QPointF(left.right() + spineWidth, top)));
+    const QRectF right = figure.panels.constLast().usable;
+    figure.spine = QRectF(left.right(), top, spineWidth, std::max(left.height(), right.height()));
+    const double height = std::max(left.bottom() + backBleed.bottom(), right.bottom() + frontBleed.bottom());
+    figure.total = QRectF(0.0, 0.0, right.right() + frontBleed.right(), height);
+    return figure;
+}
+
+const Page *findPage(const QVector<Page> &pages, KTPageTypeEnum kind, KTPageAlignmentEnum alignment)
+{
+    const auto found = std::find_if(pages.begin(), pages.end(), [=](const Page &page) {
+        return page.context.pageType().matches(kind) && page.context.alignment().matches(alignment);
+    });
+    return found == pages.end() ? nullptr : &*found;
+}
+
+/** The sides of the cover; one that lies alone is given twice. */
+QPair<const Page *, const Page *> coverOf(const QVector<Page> &pages)
+{
+    for (const KTPageTypeEnum kind : COVER_KINDS) {
+        const auto any = static_cast<KTPageAlignmentEnum>(~0);
+        const Page *const left = findPage(pages, kind, KTPageAlignmentLeft);
+        const Page *const right = findPage(pages, kind, KTPageAlignmentRight);
+        if (left && right)
+            return {left, right};
+        if (const Page *const page = findPage(pages, kind, any))
+            return {page, page};
+    }
+    return {&pages.constFirst(), &pages.constFirst()};
+}
+
+/** The bounds of QRect are ints, so its far edges are off by one and may overflow. */
+QRectF exactRect(const QRect &rect)
+{
+    return QRectF(rect.left(), rect.top(), double(rect.right()) - rect.left() + 1.0,
+                  double(rect.bottom()) - rect.top() + 1.0);
+}
+
+/** By key, as QMap sorts them. */
+QVector<KTPreviewModel::OptionGroup> groupsOf(const KTConfiguredArticleVariantList &options)
+{
+    const KTArticleVariants defaults = options.defaultVariants();
+    QMap<QString, KTPreviewModel::OptionGroup> groups;
+    for (const KTConfiguredArticleVariant &option : options) {
+        KTPreviewModel::OptionGroup &group = groups[option.key()];
+        if (group.options.isEmpty())
+            group.name = option.keyName().isEmpty()
+                ? visible(option.key())
+                : QStringLiteral("%1 (%2)").arg(visible(option.keyName()), visible(option.key()));
+        const QString name = option.visibleName().isEmpty() ? option.value() : option.visibleName();
+        group.options.append(
+            {visible(name), option.color().isValid() ? option.color() : QColor(Qt::transparent),
+             defaults.value(option.key(), QString()) == option.value(), option.isNotAccountable()});
+    }
+    return groups.values().toVector();
+}
+
+void addSizes(KTPreviewModel *model, const Page &front, int pages)
+{
+    const auto add = [model](const QString &label, const QString &text) {
+        model->sizes.append({label, text});
+    };
+    const KTPreviewModel::Figure &cover = model->figures.constFirst();
+    const KTPreviewModel::Panel &first = cover.panels.constFirst();
+    const KTPreviewModel::Panel &last = cover.panels.constLast();
+    if (first.name != last.name && first.usable.size() == last.usable.size()) {
+        add(QStringLiteral("Back and front, each"), millimeters(first.usable.size()));
+    } else {
+        for (const KTPreviewModel::Panel &panel : cover.panels)
+            add(panel.name, millimeters(panel.usable.size()));
+    }
+    if (!cover.spine.isEmpty())
+        add(QStringLiteral("Spine at %1 pages").arg(pages), millimeters(cover.spine.width()));
+    if (cover.additionalSpineWidth > 0.0)
+        add(QStringLiteral("added on each side"), millimeters(cover.additionalSpineWidth));
+    add(QStringLiteral("With bleed"), millimeters(cover.total.size()));
+    const KTMargins bleed = front.size.bleedMargins();
+    add(QStringLiteral("Bleed top, bottom"),
+        QStringLiteral("%1, %2").arg(millimeters(bleed.top()), millimeters(bleed.bottom())));
+    add(QStringLiteral("Bleed left, right"),
+        QStringLiteral("%1, %2").arg(millimeters(bleed.left()), millimeters(bleed.right())));
+    if (!last.slipcase.isEmpty())
+        add(QStringLiteral("Slipcase cover"), millimeters(last.slipcase.size()));
+}
+
+/** Puts each barcode on the figure of its page, or into the notes. */
+void addBarcodes(KTPreviewModel *model, const KTArticleModel &article, int pages)
+{
+    const Page *const inner
+        = findPage(article.pages, KTPageTypeNormalpage, static_cast<KTPageAlignmentEnum>(~0));
+    QMap<int, int> figureOfPage {
+        {COVER_PAGE, 0}
+    };
+    for (const KTBarcodeDefinition &barcode : article.barcodes) {
+        const int pageNr = barcode.pageNr();
+        const auto note = [&](const QString &reason) {
+            model->notes.append(QStringLiteral("Barcode on page %1: %2").arg(pageNr).arg(reason));
+        };
+        if (pageNr < COVER_PAGE || pageNr > std::max(COVER_PAGE, pages)) {
+            note(QStringLiteral("no such page"));
+            continue;
+        }
+        if (!figureOfPage.contains(pageNr)) {
+            if (!inner || figureOfPage.size() > MOST_INNER_PAGES) {
+                note(inner ? QStringLiteral("not drawn") : QStringLiteral("its size is not known"));
+                continue;
+            }
+            figureOfPage.insert(pageNr, model->figures.size());
+            model->figures.append(figureOf(*inner, QStringLiteral("Page %1").arg(pageNr)));
+        }
+        KTPreviewModel::Figure &figure = model->figures[figureOfPage.value(pageNr)];
+        const QRectF rect = exactRect(barcode.rect()).translated(figure.panels.constFirst().usable.topLeft());
+        if (figure.total.contains(rect))
+            figure.barcodes.append({rect, pageNr, barcode.image()});
+        else
+            note(QStringLiteral("outside, at %1, %2")
+                     .arg(millimeters(barcode.rect().left()), millimeters(barcode.rect().top())));
+    }
+    for (const KTPreviewModel::Figure &figure : qAsConst(model->figures)) {
+        if (&figure != &model->figures.constFirst())
+            model->sizes.append({figure.name, millimeters(figure.panels.constFirst().usable.size())});
+        for (const KTPreviewModel::Barcode &barcode : figure.barcodes)
+            model->sizes.append(
+                {QStringLiteral("Barcode on page %1").arg(barcode.pageNr), millimeters(barcode.rect.size())});
+    }
+}
+
+} // namespace
+
+std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticleModel &article, int pages,
+                                                     QString *objection)
+{
+    *objection = article.pages.isEmpty() ? QStringLiteral("has no page sizes") : QString();
+    for (const Page &page : article.pages) {
+        if (objection->isEmpty())
+            *objection = objectionTo(page);
+    }
+    if (!objection->isEmpty())
+        return std::nullopt;
+
+    const auto [back, front] = coverOf(article.pages);
+    const bool isSpread = back->context.alignment().matches(KTPageAlignmentLeft)
+        && front->context.alignment().matches(KTPageAlignmentRight);
+    KTPreviewModel model;
+    if (isSpread) {
+        const double width = article.hasSpine
+            ? article.spine.spineWidth(static_cast<unsigned int>(std::max(0, pages))).layoutUnits()
+            : 0.0;
+        if (!isDrawable(width, 0.0)) {
+            *objection = QStringLiteral("has a spine of %1 mm; a preview shows 0.0 to %2 mm")
+                             .arg(millimeters(width), millimeters(MAXIMUM_LENGTH));
+            return std::nullopt;
+        }
+        model.figures.append(spreadOf(*back, *front, width));
+        const double additional = article.hasSpine ? article.spine.additionalSpineWidth().layoutUnits() : 0.0;
+        if (additional > 0.0 && additional * 2.0 < width)
+            model.figures[0].additionalSpineWidth = additional;
+    } else {
+        model.figures.append(figureOf(*front, front->context.pageType().encode()));
+    }
+
+    model.title = QStringLiteral("%1  %2").arg(article.articleId.toString(), visible(article.name)).trimmed();
+    model.subtitle = QStringLiteral("%1 %2, %3")
+                         .arg(pages)
+                         .arg(pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"))
+                         .arg(front->context.pageType().encode());
+    addSizes(&model, *front, pages);
+    addBarcodes(&model, article, pages);
+    model.optionGroups = groupsOf(article.options);
+    return model;
+}

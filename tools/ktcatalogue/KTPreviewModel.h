@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+struct KTArticleModel;
+
+/** What a preview draws of an article at one page count; lengths in layout units (0.1 mm), y downwards. */
+struct KTPreviewModel
+{
+    /** Longer sides are refused: they are mistakes, and would leave nothing to be seen of the rest. */
+    static constexpr int MAXIMUM_LENGTH = 50000;
+    static constexpr int MINIMUM_LENGTH = 10;
+
+    /** One side of a cover, or a page. */
+    struct Panel
+    {
+        QString name;
+        QRectF usable;
+        /** Where the slipcase cover lies on it; null without one. */
+        QRectF slipcase;
+    };
+    struct Barcode
+    {
+        QRectF rect;
+        int pageNr;
+        /** Null when there is none at its place. */
+        QImage image;
+    };
+    /** A flat sheet with its bleed; its corner is the origin. */
+    struct Figure
+    {
+        QString name;
+        QRectF total;
+        QVector<Panel> panels;
+        /** Between two panels; as wide as they lie apart. */
+        QRectF spine;
+        /** The additional width on each side of the spine. */
+        double additionalSpineWidth = 0.0;
+        QVector<Barcode> barcodes;
+    };
+    struct Option
+    {
+        QString name;
+        /** Transparent for an option without a swatch. */
+        QColor color;
+        bool isPreselected;
+        bool isNotCharged;
+    };
+    struct OptionGroup
+    {
+        QString name;
+        QVector<Option> options;
+    };
+
+    /**
+     * The cover first, then the pages that carry barcodes. Positions of barcodes count from the corner of the
+     * usable area, on a cover from that of its left side. Nothing when the article has no sizes, or such that
+     * cannot be drawn; the objection then says so, as a predicate of the article.
+     */
+    static std::optional<KTPreviewModel> create(const KTArticleModel &article, int pages, QString *objection);
+
+    QString title;
+    QString subtitle;
+    QVector<Figure> figures;
+    /** Sizes as label and text. */
+    QVector<QPair<QString, QString>> sizes;
+    /** What is not drawn, and why. */
+    QStringList notes;
+    QVector<OptionGroup> optionGroups;
+};
