@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "KTTestSupport.h"
 
 #include <type_traits>
 
@@ -11,6 +11,30 @@ namespace KTTest {
 template <typename CLASS>
 using Enum = std::decay_t<decltype(CLASS().value())>;
 
+/** The classification with these bits. */
+template <typename CLASS>
+CLASS withBits(qint64 bits)
+{
+    return CLASS(static_cast<Enum<CLASS>>(bits));
+}
+
+/** What is read from a keyword text: the bits, the keyword that is written, and those of the bits. */
+template <typename CLASS>
+QString readKeywords(const QString &keywords)
+{
+    const CLASS read(keywords);
+    return text(qint64(read.value()), read.encode(), read.encodeCSV());
+}
+
+/** The template "<t/>" with what the classification with these bits adds to it. */
+template <typename CLASS>
+QString templateOf(qint64 bits)
+{
+    QDomElement element = KTTest::element(u"<t/>"_s);
+    withBits<CLASS>(bits).toTemplates2Format(element);
+    return xml(element);
+}
+
 /** The union of the single bits for which the predicate holds. */
 template <typename CLASS, typename Predicate>
 qint64 bitsWhere(Predicate predicate)
@@ -18,7 +42,7 @@ qint64 bitsWhere(Predicate predicate)
     qint64 bits = 0;
     for (int i = 0; i < int(sizeof(Enum<CLASS>)) * 8 - 1; ++i) {
         const qint64 bit = qint64(1) << i;
-        if (predicate(CLASS(static_cast<Enum<CLASS>>(bit))))
+        if (predicate(withBits<CLASS>(bit)))
             bits |= bit;
     }
     return bits;

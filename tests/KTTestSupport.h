@@ -1,10 +1,20 @@
 #pragma once
 
+#include <QDataStream>
+#include <QDebug>
 #include <QDomDocument>
 #include <QDomElement>
 #include <QString>
+#include <QtTest>
 
 #include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <thread>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
 
 /** A text as a QString, short enough for data rows. */
 inline QString operator""_s(const char16_t *text, std::size_t size)
@@ -13,6 +23,143 @@ inline QString operator""_s(const char16_t *text, std::size_t size)
 }
 
 namespace KTTest {
+
+/** A text that may also be given as a plain UTF-8 literal. */
+class Text : public QString
+{
+public:
+    Text(const char *utf8)
+        : QString(QString::fromUtf8(utf8))
+    {
+    }
+    Text(const QString &text)
+        : QString(text)
+    {
+    }
+};
+
+template <typename T>
+using Cell = std::conditional_t<std::is_same_v<T, QString>, Text, T>;
+
+/** The rows of a data function. A row without a name is named after its first column, a text. */
+template <typename... COLUMNS>
+class Rows
+{
+    static constexpr const char *NAMES[] = {"0", "1", "2", "3", "4", "5", "6", "7"};
+
+public:
+    Rows()
+    {
+        int column = 0;
+        (QTest::addColumn<COLUMNS>(NAMES[column++]), ...);
+    }
+    void operator()(const char *name, const Cell<COLUMNS> &...values) const
+    {
+        (QTest::newRow(name) << ... << static_cast<const COLUMNS &>(values));
+    }
+    void operator()(const Cell<COLUMNS> &...values) const
+    {
+        const QString &name = std::get<0>(std::tie(values...));
+        operator()(name.isEmpty() ? "empty" : name.toUtf8().constData(), values...);
+    }
+    static std::tuple<COLUMNS...> current()
+    {
+        const char *const *name = NAMES;
+        const auto data = [&name](int type) { return QTest::qData(*name++, type); };
+        return {*static_cast<COLUMNS *>(data(qMetaTypeId<COLUMNS>()))...};
+    }
+};
+
+/** The values of the current row, as QFETCH() gives them one by one. */
+template <typename... COLUMNS>
+std::tuple<COLUMNS...> row()
+{
+    return Rows<COLUMNS...>::current();
+}
+
+/** What an object looks like in the log. */
+template <typename T>
+QString logged(const T &object)
+{
+    QString text;
+    QDebug(&text) << object;
+    return text;
+}
+
+/** The values as one text, with bars between them; a bool is + or -. */
+template <typename... VALUES>
+QString text(const VALUES &...values)
+{
+    QStringList texts;
+    const auto append = [&texts](const auto &value) {
+        using Value = std::decay_t<decltype(value)>;
+        QString text;
+        if constexpr (std::is_same_v<Value, bool>)
+            text = QLatin1Char(value ? '+' : '-');
+        else if constexpr (std::is_floating_point_v<Value>)
+            text = QString::number(value, 'g', 12);
+        else
+            QDebug(&text).noquote().nospace() << value;
+        texts.append(text);
+    };
+    (append(values), ...);
+    return texts.join(QLatin1Char('|'));
+}
+
+/** The texts of the answers to each of the inputs, with blanks between them. */
+template <typename INPUT = QString, typename FUNCTION>
+QString each(std::initializer_list<Cell<INPUT>> inputs, FUNCTION answer)
+{
+    QStringList texts;
+    for (const Cell<INPUT> &input : inputs)
+        texts.append(text(answer(input)));
+    return texts.join(QLatin1Char(' '));
+}
+
+/** A text as an INPUT; whole numbers may be hexadecimal. */
+template <typename INPUT>
+INPUT fromText(const QString &text)
+{
+    if constexpr (std::is_floating_point_v<INPUT>)
+        return text.toDouble();
+    else if constexpr (std::is_arithmetic_v<INPUT>)
+        return static_cast<INPUT>(text.toLongLong(nullptr, 0));
+    else
+        return text;
+}
+
+/** Checks rows "input -> answer", where the answer is the text() of what the function makes of the input. */
+template <typename INPUT = QString, typename FUNCTION>
+void check(FUNCTION answer, std::initializer_list<Text> rows, const char *file = __builtin_FILE(),
+           int line = __builtin_LINE())
+{
+    const QString arrow = u" -> "_s;
+    for (const QString &row : rows) {
+        const QString input = row.left(row.indexOf(arrow));
+        const QString actual = input + arrow + text(answer(fromText<INPUT>(input)));
+        QTest::qCompare(actual, row, "what comes out", "the row", file, line);
+    }
+}
+
+/** What an object writes into a data stream, in hexadecimal digits. */
+template <typename T>
+QByteArray streamed(const T &object)
+{
+    QByteArray written;
+    QDataStream stream(&written, QIODevice::WriteOnly);
+    object << stream;
+    return written.toHex();
+}
+
+/** Calls the function with the numbers from 0 on, all in their own threads. */
+inline void runInThreads(int count, const std::function<void(int)> &function)
+{
+    std::vector<std::thread> threads;
+    for (int i = 0; i < count; ++i)
+        threads.emplace_back(function, i);
+    for (std::thread &thread : threads)
+        thread.join();
+}
 
 /** The document element of an XML text. It keeps the document alive. */
 inline QDomElement element(const QString &xml)

@@ -12,8 +12,8 @@ namespace {
 KTArticleVariants variants(const QString &text)
 {
     KTArticleVariants variants;
-    for (const QString &pair : text.split(QLatin1Char('/'), Qt::SkipEmptyParts))
-        variants.insert(pair.section(QLatin1Char('='), 0, 0), pair.section(QLatin1Char('='), 1));
+    for (const QString &pair : text.split(u'/', Qt::SkipEmptyParts))
+        variants.insert(pair.section(u'=', 0, 0), pair.section(u'=', 1));
     return variants;
 }
 
@@ -22,8 +22,8 @@ QString pairs(const KTArticleVariants &variants)
 {
     QStringList pairs;
     for (const QString &key : variants.keys())
-        pairs.append(key + QLatin1Char('=') + variants.value(key, u"missing"_s));
-    return pairs.join(QLatin1Char('/'));
+        pairs.append(key + u'=' + variants.value(key, u"missing"_s));
+    return pairs.join(u'/');
 }
 
 /** The same text with its parts, whose order is not stated, in order. */
@@ -40,77 +40,50 @@ class tst_KTArticleVariants : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void readsText_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("keywordString");
-        QTest::addColumn<QString>("mcf");
-        QTest::newRow("colon") << u"alcolor:black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
-        QTest::newRow("bar") << u"alcolor|black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
-        QTest::newRow("plus") << u"alcolor+black"_s << u"alcolor=black"_s << u"alcolor=black"_s;
-        QTest::newRow("no separator") << u"alcolor"_s << QString() << QString();
-        QTest::newRow("two separators") << u"a:b+c"_s << QString() << QString();
-        QTest::newRow("empty piece") << u"a::b"_s << QString() << QString();
-        QTest::newRow("empty") << QString() << QString() << QString();
-        QTest::newRow("empty key") << u":black"_s << u"=black"_s << u"=black"_s;
-        QTest::newRow("empty parts") << u"a:1,,oops,"_s << u"a=1,,oops,"_s << u"a=1"_s;
-        QTest::newRow("later wins") << u"a:white,a|black"_s << QString() << u"a=black"_s;
-    }
     void readsText()
     {
-        QFETCH(QString, text);
-        QTEST(pairs(KTArticleVariants(text)), "keywordString");
-        QTEST(pairs(KTArticleVariants::createFromMCF(text)), "mcf");
+        // As a keyword string and as MCF.
+        const auto read = [](const QString &text) {
+            return KTTest::text(pairs(KTArticleVariants(text)),
+                                pairs(KTArticleVariants::createFromMCF(text)));
+        };
+        QCOMPARE(KTTest::each({"k:v", "k|v", "k+v", "k", "a:b+c", "a::b", "", ":v"}, read),
+                 u"k=v|k=v k=v|k=v k=v|k=v | | | | =v|=v"_s);
+        KTTest::check(read, {"a:1,,oops, -> a=1,,oops,|a=1", "a:white,a|black -> |a=black"});
     }
 
-    void readsJson()
+    void readsJsonAndElements()
     {
         const QByteArray json
             = R"(["form_parameter-alcolor:white", "boxform_parameter-style:wood", "oops", "a:b:c", 17,
                                     "a|b", "alcolor:black", "FORM_PARAMETER-x:1"])";
         QCOMPARE(pairs(KTArticleVariants(QJsonDocument::fromJson(json).array())),
                  u"FORM_PARAMETER-x=1/alcolor=black/boxstyle=wood"_s);
-    }
-
-    void readsElement()
-    {
         QCOMPARE(pairs(KTArticleVariants(KTTest::element(u"<f key='k' value='v'/>"_s))), u"k=v"_s);
         QCOMPARE(pairs(KTArticleVariants(KTTest::element(u"<f/>"_s))), u"="_s);
-        QVERIFY(KTArticleVariants(QDomElement()).isValid());
-        QVERIFY(!KTArticleVariants(u"k"_s, QString()).isValid());
+        QVERIFY(KTArticleVariants(QDomElement()).isValid()
+                && !KTArticleVariants(u"k"_s, QString()).isValid());
         QVERIFY(!KTArticleVariants(QString(), u"v"_s).isValid());
     }
 
-    void writes_data()
-    {
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<QString>("mcf");
-        QTest::addColumn<QString>("orderTxt");
-        QTest::addColumn<QString>("xtci");
-        QTest::newRow("plain") << u"k=black"_s << u"k:black"_s << u"k:black"_s << u"k=black"_s;
-        QTest::newRow("compound and plain")
-            << u"c;a=1;2/b=3"_s << u"b:3,c;a:1;2"_s << u"a:2;b:3;c:1"_s << u"a=2/b=3/c=1"_s;
-        QTest::newRow("unequal parts") << u"a;b=1"_s << u"a;b:1"_s << QString() << QString();
-        QTest::newRow("empty part dropped")
-            << u"a;;b=;1;2"_s << u"a;;b:;1;2"_s << u"a:1;b:2"_s << u"a=1/b=2"_s;
-        QTest::newRow("empty value") << u"alcolor="_s << QString() << QString() << QString();
-        QTest::newRow("empty key") << u"=black"_s << QString() << QString() << QString();
-        QTest::newRow("only separators") << u";=;;"_s << u";:;;"_s << QString() << QString();
-        QTest::newRow("placeholder in key") << u"a%2=b"_s << u"ab:b"_s << u"ab:b"_s << u"a%2=b"_s;
-        const QString key = u"%2"_s.repeated(65536);
-        const QString value(65536, QLatin1Char('x'));
-        const QString unfilled = key + QLatin1Char(':') + value;
-        QTest::newRow("explosive key")
-            << key + u"="_s + value << unfilled << unfilled << key + u"="_s + value;
-        QTest::newRow("nothing") << QString() << QString() << QString() << QString();
-    }
     void writes()
     {
-        QFETCH(QString, input);
-        const KTArticleVariants written = variants(input);
-        QTEST(sorted(written.toMCF(), QLatin1Char(',')), "mcf");
-        QTEST(sorted(written.toOrderTxt(), QLatin1Char(';')), "orderTxt");
-        QTEST(pairs(written.toXTCI()), "xtci");
+        // As MCF, order text and XTCI.
+        const auto written = [](const QString &input) {
+            const KTArticleVariants options = variants(input);
+            return KTTest::text(sorted(options.toMCF(), u','), sorted(options.toOrderTxt(), u';'),
+                                pairs(options.toXTCI()));
+        };
+        KTTest::check(written,
+                      {"k=black -> k:black|k:black|k=black",
+                       "c;a=1;2/b=3 -> b:3,c;a:1;2|a:2;b:3;c:1|a=2/b=3/c=1", "a;b=1 -> a;b:1||",
+                       "a;;b=;1;2 -> a;;b:;1;2|a:1;b:2|a=1/b=2", "alcolor= -> ||", "=black -> ||",
+                       ";=;; -> ;:;;||", "a%2=b -> ab:b|ab:b|a%2=b", " -> ||"});
+        // A key that would multiply its value without bound is left as it is.
+        const QString key = u"%2"_s.repeated(65536);
+        const QString value(65536, u'x');
+        const QString unfilled = key + u':' + value;
+        QCOMPARE(written(key + u'=' + value), KTTest::text(unfilled, unfilled, QString(key + u'=' + value)));
     }
 
     void survivesMCF()
@@ -122,42 +95,30 @@ private Q_SLOTS:
         QCOMPARE(pairs(KTArticleVariants::createFromMCF(variants(u"k=a,b"_s).toMCF())), u"k=a"_s);
     }
 
-    void containsOptions_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<bool>("contains");
-        QTest::addColumn<bool>("containsAtLeastOne");
-        QTest::newRow("both empty") << QString() << QString() << true << true;
-        QTest::newRow("second empty") << u"a:1"_s << QString() << true << true;
-        QTest::newRow("first empty") << QString() << u"a:1"_s << false << true;
-        QTest::newRow("equal") << u"a:1"_s << u"a:1"_s << true << true;
-        QTest::newRow("other value") << u"a:1"_s << u"a:2"_s << false << false;
-        QTest::newRow("one of two") << u"a:1"_s << u"a:1,b:2"_s << false << true;
-        QTest::newRow("empty value of a missing key") << u"a:1"_s << u"a:1,b:"_s << true << true;
-        QTest::newRow("own empty value") << u"b:"_s << u"a:1"_s << false << true;
-    }
     void containsOptions()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
-        const KTArticleVariants variants = KTArticleVariants::createFromMCF(first);
-        const KTArticleVariants other = KTArticleVariants::createFromMCF(second);
-        QTEST(variants.contains(other), "contains");
-        QTEST(variants.containsAtLeastOne(other), "containsAtLeastOne");
-        KTArticleVariantsList list;
-        QVERIFY(!list.containsBoxStyle(other));
-        list.append(variants);
-        QTEST(list.containsBoxStyle(other), "contains");
+        // Whether the first contains the second, or one of its options; in a list without and with the first.
+        const auto contains = [](const QString &both) {
+            const KTArticleVariants first = KTArticleVariants::createFromMCF(both.section(u'/', 0, 0));
+            const KTArticleVariants second = KTArticleVariants::createFromMCF(both.section(u'/', 1));
+            KTArticleVariantsList list;
+            const bool inEmpty = list.containsBoxStyle(second);
+            list.append(first);
+            return KTTest::text(first.contains(second), first.containsAtLeastOne(second), inEmpty,
+                                list.containsBoxStyle(second));
+        };
+        KTTest::check(contains,
+                      {"/ -> +|+|-|+", "a:1/ -> +|+|-|+", "/a:1 -> -|+|-|-", "a:1/a:1 -> +|+|-|+",
+                       "a:1/a:2 -> -|-|-|-", "a:1/a:1,b:2 -> -|+|-|-", "a:1/a:1,b: -> +|+|-|+",
+                       "b:/a:1 -> -|+|-|-"});
     }
 
     void ordersKeysByCodeUnit()
     {
         const KTArticleVariants variants = KTArticleVariants::createFromMCF(u"b:1,B:2,a:3,\u00e4:4"_s);
         QCOMPARE(variants.keys().join(QString()), u"Bab\u00e4"_s);
-        QString debug;
-        QDebug(&debug).nospace() << variants << KTArticleVariants();
-        QCOMPARE(debug, u"\"B = 2; a = 3; b = 1; \u00e4 = 4\"\"\""_s);
+        QCOMPARE(KTTest::logged(variants) + KTTest::logged(KTArticleVariants()),
+                 u"\"B = 2; a = 3; b = 1; \u00e4 = 4\" \"\" "_s);
     }
 
     void sharesUntilChanged()

@@ -56,42 +56,34 @@ class tst_KTBarcodeDefinition : public QObject
 private Q_SLOTS:
     void readsElement_data()
     {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<KTDistanceUnit>("unit");
-        QTest::addColumn<KTBarcodeDefinition>("expected");
-        QTest::addColumn<int>("warnings");
+        const KTTest::Rows<QString, KTDistanceUnit, KTBarcodeDefinition, int> row;
         const KTDistanceUnit layout(KTDistanceUnitLayout);
         const KTDistanceUnit mm(KTDistanceUnitMillimeter);
-        const auto row = [](const char *title, const char *attributes, const KTDistanceUnit &unit,
-                            const KTBarcodeDefinition &expected, int warnings = 0) {
-            QTest::newRow(title) << QString::fromUtf8(attributes) << unit << expected << warnings;
-        };
         row("all", "position_x='10' position_y='50' width='20' height='30' pageNr='3' image='a.png'", layout,
-            definition({10, 20, 20, 30}, 3, "a.png"));
-        row("nothing", "", layout, definition({1, 0, 1, 1}, 0, dummy));
-        row("nothing, in millimetres", "", mm, definition({10, 0, 10, 10}, 0, dummy));
-        row("malformed", "position_x='nan' position_y='x' width='inf' height='' pageNr='1.5'", layout,
-            definition({1, 0, 1, 1}, 0, dummy));
+            definition({10, 20, 20, 30}, 3, "a.png"), 0);
+        row("", layout, definition({1, 0, 1, 1}, 0, dummy), 0);
+        row("in millimetres", "", mm, definition({10, 0, 10, 10}, 0, dummy), 0);
+        row("position_x='nan' position_y='x' width='inf' height='' pageNr='1.5'", layout,
+            definition({1, 0, 1, 1}, 0, dummy), 0);
         row("truncates the difference", "position_x='-1.7' position_y='1.2' width='2.9' height='1.9'", layout,
-            definition({-1, 0, 2, 1}, 0, dummy));
+            definition({-1, 0, 2, 1}, 0, dummy), 0);
         row("truncates after conversion", "position_x='1.29' position_y='2' width='0.15' height='0.1'", mm,
-            definition({12, 19, 1, 1}, 0, dummy));
+            definition({12, 19, 1, 1}, 0, dummy), 0);
         row("unknown unit", "position_x='7'", KTDistanceUnit(), definition({7, 0, 1, 1}, 0, dummy), 4);
-        row("no width", "width='0.9'", layout, definition({1, 0, 0, 1}, 0, dummy));
-        row("no image", "image=''", layout, definition({1, 0, 1, 1}, 0, ""));
+        row("width='0.9'", layout, definition({1, 0, 0, 1}, 0, dummy), 0);
+        row("image=''", layout, definition({1, 0, 1, 1}, 0, ""), 0);
     }
     void readsElement()
     {
-        QFETCH(QString, attributes);
-        QFETCH(KTDistanceUnit, unit);
-        QFETCH(KTBarcodeDefinition, expected);
+        const auto [attributes, unit, expected, warnings]
+            = KTTest::row<QString, KTDistanceUnit, KTBarcodeDefinition, int>();
         const QDomElement element = KTTest::element(u"<barcode %1/>"_s.arg(attributes));
         const KTMessageRecorder recorder;
         const KTBarcodeDefinition read = KTBarcodeDefinition::createFromProductsXML(element, unit);
-        QTEST(recorder.messages().size(), "warnings");
+        QCOMPARE(recorder.messages().size(), warnings);
         QCOMPARE(read, expected);
         QCOMPARE(KTBarcodeDefinitionList::createFromXTCI(element, unit),
-                 expected.isValid() ? list({expected}) : KTBarcodeDefinitionList());
+                 expected.isValid() ? list({expected}) : list({}));
     }
 
     void readsList()
@@ -101,9 +93,9 @@ private Q_SLOTS:
                               "<group><barcode/></group><Barcode/></p>"_s);
         const KTDistanceUnit unit(KTDistanceUnitLayout);
         const KTBarcodeDefinitionList read = KTBarcodeDefinitionList::createFromProductsXML(element, unit);
-        const QRect rect(1, 0, 1, 1);
-        QCOMPARE(read, list({definition(rect, 1, dummy), definition(rect, 2, dummy)}));
-        QCOMPARE(read.barcodesOnPage(2), list({definition(rect, 2, dummy)}));
+        const KTBarcodeDefinition second = definition({1, 0, 1, 1}, 2, dummy);
+        QCOMPARE(read, list({definition(second.rect(), 1, dummy), second}));
+        QCOMPARE(read.barcodesOnPage(2), list({second}));
         QVERIFY(read.barcodesOnPage(0).isEmpty());
         for (const QDomElement &other : {element, QDomElement()})
             QVERIFY(KTBarcodeDefinitionList::createFromXTCI(other, unit).isEmpty());
@@ -141,69 +133,48 @@ private Q_SLOTS:
         QVERIFY(!(definition(all) < definition({INT_MIN, INT_MIN, 1, 1})));
     }
 
-    void comparesWithoutOrder_data()
-    {
-        QTest::addColumn<KTBarcodeDefinition>("first");
-        QTest::addColumn<KTBarcodeDefinition>("second");
-        QTest::addColumn<bool>("less");
-        QTest::addColumn<bool>("greater");
-        const KTBarcodeDefinition middle = definition({5, 5, 5, 5}, 5, "m");
-        QTest::newRow("equal") << middle << definition({5, 5, 5, 5}, 5, "m") << false << false;
-        QTest::newRow("left") << definition({4, 5, 5, 5}, 5, "m") << middle << true << false;
-        QTest::newRow("top") << definition({5, 4, 5, 5}, 5, "m") << middle << true << false;
-        QTest::newRow("width") << definition({5, 5, 4, 5}, 5, "m") << middle << true << false;
-        QTest::newRow("height") << definition({5, 5, 5, 4}, 5, "m") << middle << true << false;
-        QTest::newRow("page") << definition({5, 5, 5, 5}, 4, "m") << middle << true << false;
-        QTest::newRow("image name") << definition({5, 5, 5, 5}, 5, "l") << middle << true << false;
-        QTest::newRow("both ways") << definition({4, 5, 5, 5}, 5, "n") << middle << true << true;
-    }
     void comparesWithoutOrder()
     {
-        QFETCH(KTBarcodeDefinition, first);
-        QFETCH(KTBarcodeDefinition, second);
-        QTEST(first < second, "less");
-        QTEST(second < first, "greater");
-        QTEST(list({first, first}) < list({second, second}), "less");
-        QVERIFY((first == second) == (qHash(first) == qHash(second)));
-        QVERIFY(!(list({first, second}) < list({second, second})));
-        QVERIFY(list({second}) < list({first, first}) && !(list({first, first}) < list({second})));
-        QVERIFY(list({}) < list({first}) && !(list({}) < list({})));
+        const KTBarcodeDefinition middle = definition({5, 5, 5, 5}, 5, "m");
+        const KTBarcodeDefinition bothWays = definition({4, 5, 5, 5}, 5, "n");
+        for (const KTBarcodeDefinition &less :
+             {definition({4, 5, 5, 5}, 5, "m"), definition({5, 4, 5, 5}, 5, "m"),
+              definition({5, 5, 4, 5}, 5, "m"), definition({5, 5, 5, 4}, 5, "m"),
+              definition({5, 5, 5, 5}, 4, "m"), definition({5, 5, 5, 5}, 5, "l"), bothWays}) {
+            QVERIFY(less < middle && (middle < less) == (less == bothWays));
+            QVERIFY(less != middle && qHash(less) != qHash(middle));
+            QVERIFY(list({less, less}) < list({middle, middle}));
+            QVERIFY(!(list({less, middle}) < list({middle, middle})));
+            QVERIFY(list({middle}) < list({less, less}) && !(list({less, less}) < list({middle})));
+        }
+        const KTBarcodeDefinition same = definition(middle.rect(), 5, "m");
+        QVERIFY(same == middle && qHash(same) == qHash(middle) && !(same < middle));
+        QVERIFY(list({}) < list({middle}) && !(list({}) < list({})));
     }
 
-    void merges_data()
-    {
-        QTest::addColumn<KTBarcodeDefinitionList>("before");
-        QTest::addColumn<KTBarcodeDefinitionList>("update");
-        QTest::addColumn<KTBarcodeDefinitionList>("after");
-        const QRect r(0, 0, 9, 9);
-        const KTBarcodeDefinition a = definition(r, 1);
-        const KTBarcodeDefinition b = definition(r, 2);
-        const KTBarcodeDefinition c = definition(r, 3);
-        const KTBarcodeDefinition other = definition({9, 9, 9, 9}, 1);
-        const KTBarcodeDefinition nameless = definition(r, 4, "");
-        const auto row = [](const char *title, std::initializer_list<KTBarcodeDefinition> before,
-                            std::initializer_list<KTBarcodeDefinition> update,
-                            std::initializer_list<KTBarcodeDefinition> after) {
-            QTest::newRow(title) << list(before) << list(update) << list(after);
-        };
-        row("identical", {a, other}, {a}, {a, other});
-        row("new", {a}, {other, other}, {a, other});
-        row("replaces and moves to the end", {a, other}, {b}, {other, b});
-        row("removes every equal one", {a, other, a}, {b}, {other, b});
-        row("replaces the first of several", {a, b, other}, {c}, {b, other, c});
-        row("one after the other", {a}, {b, c, b}, {c});
-        row("an invalid one stays", {nameless, a}, {b}, {nameless, a, b});
-        row("an invalid one replaces", {a}, {nameless, b}, {nameless, b});
-        row("nothing", {a}, {}, {a});
-    }
     void merges()
     {
-        QFETCH(KTBarcodeDefinitionList, before);
-        QFETCH(KTBarcodeDefinitionList, update);
-        before.updateDefinitions(update);
-        QTEST(before, "after");
-        before.updateDefinitions(before);
-        QTEST(before, "after");
+        // A letter for each; o lies elsewhere, i is not valid.
+        const QString letters = u"abcoi"_s;
+        const auto listOf = [&](const QString &text) {
+            KTBarcodeDefinitionList result;
+            for (const QChar letter : text)
+                result.append(definition({0, 0, 9, letter == u'o' ? 8 : 9}, letters.indexOf(letter),
+                                         letter == u'i' ? "" : "i"));
+            return result;
+        };
+        const auto merged = [&](const QString &rows) {
+            KTBarcodeDefinitionList result = listOf(rows.section(u'+', 0, 0));
+            result.updateDefinitions(listOf(rows.section(u'+', 1)));
+            QString text;
+            for (const KTBarcodeDefinition &entry : qAsConst(result))
+                text.append(letters.at(entry.pageNr()));
+            result.updateDefinitions(result);
+            return result == listOf(text) ? text : u"changed by itself"_s;
+        };
+        QCOMPARE(
+            KTTest::each({"ao+a", "a+oo", "ao+b", "aoa+b", "abo+c", "a+bcb", "ia+b", "a+ib", "a+"}, merged),
+            u"ao ao ob ob boc c iab ib a"_s);
     }
 
     void agreesWithTheModel()

@@ -6,9 +6,9 @@
 
 namespace {
 
-KTConfiguredArticleVariantList offer(const char *csv)
+KTConfiguredArticleVariantList offer(const QString &csv)
 {
-    return KTConfiguredArticleVariantList::createFromCSV(QString::fromUtf8(csv));
+    return KTConfiguredArticleVariantList::createFromCSV(csv);
 }
 
 QString texts(const KTConfiguredArticleVariantList &variants)
@@ -45,63 +45,43 @@ private Q_SLOTS:
                  u"alcolor:red alcolor:black giftboxcolor;boxstyle:black;wood alcolor:blue"_s);
         KTConfiguredArticleVariantList list = sample();
         list.readVariants(KTTest::element(u"<article><forms/></article>"_s));
-        QVERIFY(list.isEmpty());
-        QVERIFY(KTConfiguredArticleVariantList(QDomElement()).isEmpty());
+        QVERIFY(list.isEmpty() && KTConfiguredArticleVariantList(QDomElement()).isEmpty());
         QVERIFY(KTConfiguredArticleVariantList(KTConfiguredArticleVariant()).isEmpty());
+        QCOMPARE(KTTest::logged(offer(u"a:1,b:2"_s)),
+                 u"KTConfiguredArticleVariantList: [ 0 :  \"KTConfiguredArticleVariant: key: a value: 1 \" "
+                 "1 :  \"KTConfiguredArticleVariant: key: b value: 2 \"  ] "_s);
     }
 
-    void readsCSVAndExpands_data()
-    {
-        QTest::addColumn<QString>("csv");
-        QTest::addColumn<QString>("read");
-        QTest::addColumn<QString>("orderTxt");
-        QTest::newRow("invalid parts")
-            << u"alcolor:black,,boxstyle,:x,a:"_s << u"alcolor:black"_s << u"alcolor:black"_s;
-        QTest::newRow("compound") << u"c:1,giftboxcolor;boxstyle:black;wood"_s
-                                  << u"c:1 giftboxcolor;boxstyle:black;wood"_s
-                                  << u"c:1;giftboxcolor:black;boxstyle:wood"_s;
-        QTest::newRow("unequal parts") << u"a;b:1,c:2"_s << u"a;b:1 c:2"_s << u"c:2"_s;
-        QTest::newRow("only separators") << u";:;"_s << u";:;"_s << QString();
-        QTest::newRow("placeholder in key") << u"a%2:b"_s << u"a%2:b"_s << u"ab:b"_s;
-        QTest::newRow("empty") << QString() << QString() << QString();
-    }
     void readsCSVAndExpands()
     {
-        QFETCH(QString, csv);
-        const KTConfiguredArticleVariantList list = KTConfiguredArticleVariantList::createFromCSV(csv);
-        QTEST(texts(list), "read");
-        QTEST(list.joinForOrderTxt(), "orderTxt");
-        for (const KTConfiguredArticleVariant &variant : list)
-            QCOMPARE(texts(KTConfiguredArticleVariantList::createFromReduced(variant)),
-                     texts(KTConfiguredArticleVariantList::createForProduction(variant)));
+        // As read, as in the order text, and whether each expands to the same for production.
+        const auto expanded = [](const QString &csv) {
+            bool areSame = true;
+            for (const KTConfiguredArticleVariant &variant : offer(csv))
+                areSame &= texts(KTConfiguredArticleVariantList::createFromReduced(variant))
+                    == texts(KTConfiguredArticleVariantList::createForProduction(variant));
+            return KTTest::text(texts(offer(csv)), offer(csv).joinForOrderTxt(), areSame);
+        };
+        KTTest::check(expanded,
+                      {"alcolor:black,,boxstyle,:x,a: -> alcolor:black|alcolor:black|+",
+                       "c:1,gift;box:black;wood -> c:1 gift;box:black;wood|c:1;gift:black;box:wood|+",
+                       "a;b:1,c:2 -> a;b:1 c:2|c:2|+", ";:; -> ;:;||+", "a%2:b -> a%2:b|ab:b|+", " -> ||+"});
     }
 
-    void matchesChoice_data()
-    {
-        QTest::addColumn<QString>("mcf");
-        QTest::addColumn<bool>("contained");
-        QTest::addColumn<QString>("variant");
-        QTest::addColumn<QString>("visibleNames");
-        QTest::addColumn<QString>("editorNames");
-        QTest::newRow("nothing") << QString() << true << QString() << QString() << QString();
-        QTest::newRow("offered") << u"alcolor:black"_s << true << u"alcolor:black"_s << u"Cover: Black"_s
-                                 << u"e1"_s;
-        QTest::newRow("two, one compound") << u"alcolor:red,giftboxcolor;boxstyle:black;wood"_s << true
-                                           << u"alcolor:red"_s << u"%2: Box/Cover: Red"_s << u"/e2"_s;
-        QTest::newRow("value not offered")
-            << u"alcolor:green"_s << false << QString() << QString() << QString();
-        QTest::newRow("key not offered")
-            << u"alcolor:red,x:y"_s << false << u"alcolor:red"_s << u"Cover: Red"_s << u"e2"_s;
-    }
     void matchesChoice()
     {
-        QFETCH(QString, mcf);
-        const KTArticleVariants chosen = KTArticleVariants::createFromMCF(mcf);
-        QTEST(sample().contains(chosen), "contained");
-        QTEST(sample().variant(chosen).toString(), "variant");
-        QTEST(sample().visibleNames(chosen).join(QLatin1Char('/')), "visibleNames");
-        QTEST(sample().editorNames(chosen).join(QLatin1Char('/')), "editorNames");
-        QCOMPARE(KTConfiguredArticleVariantList().contains(chosen), !chosen.isValid());
+        // Whether all is offered, by an empty list too; the variant, the visible names, the editor names.
+        const auto matched = [](const QString &mcf) {
+            const KTArticleVariants chosen = KTArticleVariants::createFromMCF(mcf);
+            return KTTest::text(sample().contains(chosen), KTConfiguredArticleVariantList().contains(chosen),
+                                sample().variant(chosen).toString(), sample().visibleNames(chosen).join(u'/'),
+                                sample().editorNames(chosen).join(u'/'));
+        };
+        KTTest::check(
+            matched,
+            {" -> +|+|||", "alcolor:black -> +|-|alcolor:black|Cover: Black|e1",
+             "alcolor:red,giftboxcolor;boxstyle:black;wood -> +|-|alcolor:red|%2: Box/Cover: Red|/e2",
+             "alcolor:green -> -|-|||", "alcolor:red,x:y -> -|-|alcolor:red|Cover: Red|e2"});
     }
 
     void findsFirst()
@@ -109,67 +89,44 @@ private Q_SLOTS:
         QCOMPARE(sample().variantByKey(u"alcolor"_s).value(), u"red"_s);
         QCOMPARE(sample().variantByValue(u"blue"_s).key(), u"alcolor"_s);
         QCOMPARE(sample().notAccountableVariant().value(), u"blue"_s);
-        QVERIFY(!offer("a:1").notAccountableVariant().isValid()
-                && !offer("a:1").variantByKey(u"1"_s).isValid());
+        const KTConfiguredArticleVariantList one = offer(u"a:1"_s);
+        QVERIFY(!one.notAccountableVariant().isValid() && !one.variantByKey(u"1"_s).isValid());
         QCOMPARE(sample().defaultVariants().value(KTArticleVariants::coverColorKeyName(), QString()),
                  u"blue"_s);
-        QCOMPARE(offer("b:1,a:1,b:2,B:1").keys().join(QLatin1Char(' ')), u"B a b"_s);
-        QCOMPARE(texts(offer("b:1,a:1,b:2").filter(u"b"_s)), u"b:1 b:2"_s);
+        QCOMPARE(offer(u"b:1,a:1,b:2,B:1"_s).keys().join(u' '), u"B a b"_s);
+        QCOMPARE(texts(offer(u"b:1,a:1,b:2"_s).filter(u"b"_s)), u"b:1 b:2"_s);
     }
 
-    void comparesLists_data()
-    {
-        QTest::addColumn<QString>("first");
-        QTest::addColumn<QString>("second");
-        QTest::addColumn<bool>("contains");
-        QTest::addColumn<bool>("containsAtLeastOne");
-        QTest::addColumn<QString>("common");
-        QTest::addColumn<QString>("adopted");
-        QTest::newRow("both empty") << QString() << QString() << true << true << QString() << QString();
-        QTest::newRow("first empty") << QString() << u"a:1"_s << false << true << QString() << u"a:1"_s;
-        QTest::newRow("second empty") << u"a:1"_s << QString() << true << true << QString() << QString();
-        QTest::newRow("overlap") << u"b:2,a:1,b:2"_s << u"c:3,b:2"_s << false << true << u"b:2 b:2"_s
-                                 << u"b:2 b:2"_s;
-        QTest::newRow("subset") << u"a:1,b:2"_s << u"b:2"_s << true << true << u"b:2"_s << u"b:2"_s;
-        QTest::newRow("disjoint") << u"a:1"_s << u"a:2"_s << false << false << QString() << QString();
-    }
     void comparesLists()
     {
-        QFETCH(QString, first);
-        QFETCH(QString, second);
-        const KTConfiguredArticleVariantList list = KTConfiguredArticleVariantList::createFromCSV(first);
-        const KTConfiguredArticleVariantList other = KTConfiguredArticleVariantList::createFromCSV(second);
-        QTEST(list.contains(other), "contains");
-        QTEST(list.containsAtLeastOne(other), "containsAtLeastOne");
-        KTConfiguredArticleVariantList common = list;
-        common.intersect(other, false);
-        QTEST(texts(common), "common");
-        KTConfiguredArticleVariantList adopted = list;
-        adopted.intersect(other, true);
-        QTEST(texts(adopted), "adopted");
+        // Whether the list contains the other, or one of it; what both share; what is adopted.
+        const auto compared = [](const QString &both) {
+            const KTConfiguredArticleVariantList list = offer(both.section(u'/', 0, 0));
+            const KTConfiguredArticleVariantList other = offer(both.section(u'/', 1));
+            KTConfiguredArticleVariantList common = list;
+            common.intersect(other, false);
+            KTConfiguredArticleVariantList adopted = list;
+            adopted.intersect(other, true);
+            return KTTest::text(list.contains(other), list.containsAtLeastOne(other), texts(common),
+                                texts(adopted));
+        };
+        KTTest::check(compared,
+                      {"/ -> +|+||", "/a:1 -> -|+||a:1", "a:1/ -> +|+||",
+                       "b:2,a:1,b:2/c:3,b:2 -> -|+|b:2 b:2|b:2 b:2", "a:1,b:2/b:2 -> +|+|b:2|b:2",
+                       "a:1/a:2 -> -|-||"});
     }
 
     void combinesBoxStyles()
     {
-        const auto styles = [](const char *csv) {
+        const auto styles = [](const QString &csv) {
             QStringList texts;
             for (const KTArticleVariants &style : offer(csv).possibleBoxStyles())
                 texts.append(style.value(u"boxstyle"_s, QString()) + style.value(u"coverphoto"_s, QString()));
-            return texts.join(QLatin1Char(' '));
+            return texts.join(u' ');
         };
-        QCOMPARE(styles("coverphoto:1,boxstyle:A,coverphoto:2,boxstyle:B,coverphoto:3"),
-                 u"A1 A2 A3 B1 B2 B3"_s);
-        QCOMPARE(styles("boxstyle:A,boxstyle:B"), u"A B"_s);
-        QCOMPARE(styles("coverphoto:1"), QString());
-    }
-
-    void dumps()
-    {
-        QString debug;
-        QDebug(&debug) << offer("a:1,b:2");
-        QCOMPARE(debug.trimmed(),
-                 u"KTConfiguredArticleVariantList: [ 0 :  \"KTConfiguredArticleVariant: key: a value: 1 \" "
-                 "1 :  \"KTConfiguredArticleVariant: key: b value: 2 \"  ]"_s);
+        KTTest::check(styles,
+                      {"coverphoto:1,boxstyle:A,coverphoto:2,boxstyle:B,coverphoto:3 -> A1 A2 A3 B1 B2 B3",
+                       "boxstyle:A,boxstyle:B -> A B", "coverphoto:1 -> "});
     }
 };
 

@@ -9,43 +9,45 @@ class tst_KTCoverType : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void isNamed_data()
+    void knowsItsTexts()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("toolTip");
-        const QString unknown = u"unbekannter Bindungstyp"_s;
-        QTest::newRow("hard cover")
-            << u"hard"_s << u"Hardcover"_s
-            << u"Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\n"
-               "Das Cover ist vollst\u00e4ndig gestaltbar."_s;
-        QTest::newRow("one page") << u"calendar_one_page"_s << u"1-Seiten-Kalender"_s
-                                  << u"Ein gro\u00dfformatiger Einseitig bedruckter Jahreskalender gibt "
-                                     "\u00fcbersicht \u00fcber das gesamte Kalenderjahr.\n"
-                                     "Alles auf einen Blick."_s;
-        QTest::newRow("linen") << u"cromo"_s << u"Leinen"_s
-                               << u"Der hochwertige Leinen-Einband ist in verschiedenen Farben "
-                                  "erh\u00e4ltlich.\n"
-                                  "Das Cover kann nur mit veredelten Elementen gestaltet werden."_s;
-        QTest::newRow("highest") << u"wire-o"_s << u"Kunststoff-Spiralbindung"_s << unknown;
-        QTest::newRow("empty name") << u"canvas"_s << u""_s << unknown;
-        QTest::newRow("without a name") << u"ceramics"_s << unknown << unknown;
-        QTest::newRow("union") << u"hard,soft"_s << unknown << unknown;
-        QTest::newRow("none") << QString() << unknown << unknown;
-    }
-    void isNamed()
-    {
-        QFETCH(QString, text);
-        QTEST(KTCoverType(text).humanReadableName(), "name");
-        QTEST(KTCoverType(text).toolTip(), "toolTip");
+        const auto texts = [](const QString &text) {
+            const KTCoverType coverType(text);
+            return KTTest::text(qint64(coverType.value()), coverType.encode(), coverType.humanReadableName(),
+                                coverType.toolTip());
+        };
+        KTTest::check(
+            texts,
+            {" hArd  -> 1|HARDCOVER|Hardcover|"
+             "Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\nDas Cover ist vollständig "
+             "gestaltbar.",
+             "wall_calendar -> 32|CALENDAR_SIMPLEX|Kalender einseitig|"
+             "Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\nda die leere Seite zur Wand "
+             "zeigt, und daher nicht gesehen werden kann.",
+             "calendar_annual_simplex -> 128|CALENDAR_ONE_PAGE|1-Seiten-Kalender|"
+             "Ein großformatiger Einseitig bedruckter Jahreskalender gibt übersicht über das gesamte "
+             "Kalenderjahr.\nAlles auf einen Blick.",
+             "cromo -> 4|CROMOLINEN|Leinen|"
+             "Der hochwertige Leinen-Einband ist in verschiedenen Farben erhältlich.\nDas Cover kann nur mit "
+             "veredelten Elementen gestaltet werden.",
+             "tacked -> 16|BOOKLET|Heft|"
+             "Individuell gestaltbarer flexibler Einband mit Rückstichbindung.",
+             "wire-o -> 2147483648|wire-o|Kunststoff-Spiralbindung|unbekannter Bindungstyp",
+             "canvas -> 4096|canvas||unbekannter Bindungstyp",
+             "calender_advent_photo -> 16777216|calender_advent_photo||unbekannter Bindungstyp",
+             "ceramics -> 33554432|ceramics|unbekannter Bindungstyp|unbekannter Bindungstyp",
+             "hard,soft -> 3||unbekannter Bindungstyp|unbekannter Bindungstyp",
+             "calendar_advent_photo -> 0||unbekannter Bindungstyp|unbekannter Bindungstyp",
+             " -> 0||unbekannter Bindungstyp|unbekannter Bindungstyp"});
     }
 
     void readsNames()
     {
-        QCOMPARE(int(KTCoverType::createFromHumanReadable(u"2-Seiten-Jahresplaner"_s).value()), 256);
-        QCOMPARE(int(KTCoverType::createFromHumanReadable(QString()).value()), 512);
-        for (const QString &name : {u"leder"_s, u"unbekannter Bindungstyp"_s})
-            QVERIFY(KTCoverType::createFromHumanReadable(name).isNull());
+        const auto read
+            = [](const QString &name) { return qint64(KTCoverType::createFromHumanReadable(name).value()); };
+        KTTest::check(read,
+                      {"Leder -> 8", "2-Seiten-Jahresplaner -> 256", " -> 512", "leder -> 0",
+                       "unbekannter Bindungstyp -> 0"});
         QCOMPARE(KTCoverType::bindingNames()->map.size(), 31);
         QCOMPARE(KTCoverType::bindingToolTips()->map.size(), 9);
     }
@@ -55,6 +57,7 @@ private Q_SLOTS:
         using KTTest::bitsWhere;
         QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isFullCover(); }), 19);
         QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isSimplex(); }), 1952);
+        QVERIFY(KTCoverType(u"LEATHER,SOFT"_s).isFullCover());
     }
 };
 

@@ -27,27 +27,21 @@ private Q_SLOTS:
 
     void findsOnlyFilesBelowTheRoot_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("file");
-        const auto row = [](const char *name, const char *file = "") {
-            QTest::newRow(name) << QString::fromUtf8(name) << QString::fromUtf8(file);
-        };
+        const KTTest::Rows<QString, QString> row;
         row("plain.png", "root/plain.png");
         row("icons//a b.png", "root/icons/a b.png");
         row("icons/inside", "root/plain.png");
-        for (const char *const missing : {"plain", "", ".", "icons", "loop", "device", "fifo"})
-            row(missing);
-        for (const char *const outside : {"../root-other/neighbour.png", "neighbour/neighbour.png"})
-            row(outside);
-        row("icons/../plain.png");
-        QTest::newRow("absolute") << path("root/plain.png") << QString();
-        QTest::newRow("NUL") << u"plain.png"_s + QChar::Null << QString();
-        QTest::newRow("too long") << QString(100000, QLatin1Char('x')) << QString();
+        for (const char *const refused :
+             {"plain", "", ".", "icons", "loop", "device", "fifo", "icons/../plain.png",
+              "../root-other/neighbour.png", "neighbour/neighbour.png"})
+            row(refused, "");
+        row("absolute", path("root/plain.png"), "");
+        row("NUL", u"plain.png"_s + QChar::Null, "");
+        row("too long", QString(100000, u'x'), "");
     }
     void findsOnlyFilesBelowTheRoot()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, file);
+        const auto [name, file] = KTTest::row<QString, QString>();
         KTDirectoryConfig config;
         config.setResourceRoot(path("root"));
         QCOMPARE(config.resource(name, false), file.isEmpty() ? file : path("") + file);

@@ -1,7 +1,8 @@
 #include <KTDirectoryName.h>
 #include <KTDlpType.h>
+#include <KTMaterialType.h>
 
-#include "KTTestSupport.h"
+#include "KTClassificationTest.h"
 
 #include <QtTest>
 
@@ -11,37 +12,42 @@ class tst_KTDlpType : public QObject
 private Q_SLOTS:
     void answersQuestions_data()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("directory");
-        QTest::addColumn<int>("flaggedDirectory");
-        QTest::addColumn<QString>("query");
-        QTest::newRow("style") << 2 << u"Stile"_s << 4 << 4 << u"style_v2"_s;
-        QTest::newRow("template") << 4 << u"Designs"_s << 0x20000 << 0x10000 << u"template"_s;
-        QTest::newRow("mask") << 0x10 << u"Masken & Rahmen"_s << 2 << 2 << u"mask"_s;
-        QTest::newRow("layouts") << 0x20 << QString() << 64 << 64 << u"layoutcollection"_s;
-        QTest::newRow("form data") << 0x80 << QString() << 16 << 16 << u"form_parameter_data"_s;
-        QTest::newRow("project") << 0x100 << QString() << 0x20000 << 0x20000 << u"predefined_project"_s;
-        QTest::newRow("story book") << 0x40 << u"Buchvorlagen"_s << 0 << 0 << u"style_v2"_s;
-        QTest::newRow("with the reserved bit") << 0x201 << QString() << 8 << 8 << u"background"_s;
-        QTest::newRow("story book among others") << 0x248 << QString() << 0 << 0 << u"style_v2"_s;
-        QTest::newRow("union") << 0x18 << QString() << 0 << 0 << QString();
-        QTest::newRow("none") << 0 << QString() << 0 << 0 << QString();
+        const KTTest::Rows<int, QString, int, int, QString, QString> row;
+        row("background", 1, "Hintergründe", 8, 8, "background", "1 | background");
+        row("template", 4, "Designs", 0x20000, 0x10000, "template", "4 | template");
+        row("mask", 0x10, "Masken & Rahmen", 2, 2, "mask", "16 | mask");
+        row("layout collection", 0x20, "", 64, 64, "layoutcollection", "32 | layoutcollection");
+        row("form data", 0x80, "", 16, 16, "form_parameter_data", "128 | form_parameter_data");
+        row("project", 0x100, "", 0x20000, 0x20000, "predefined_project", "256 | predefined_project");
+        row("story book", 0x40, "Buchvorlagen", 0, 0, "style_v2", "64 | storybook");
+        row("with the reserved bit", 0x202, "", 4, 4, "style_v2", "514 | ");
+        row("the reserved bit", 0x200, "", 0, 0, "", "512 | ");
+        row("story book among others", 0x248, "", 0, 0, "style_v2", "584 | ");
+        row("union", 0x18, "", 0, 0, "", "24 | ");
+        row("none", 0, "", 0, 0, "", "0 | ");
     }
     void answersQuestions()
     {
-        QFETCH(int, value);
-        QFETCH(int, directory);
-        QFETCH(int, flaggedDirectory);
+        const auto [value, visibleName, directory, flaggedDirectory, query, described]
+            = KTTest::row<int, QString, int, int, QString, QString>();
         const KTDlpType dlpType(static_cast<KTDlpTypeEnum>(value));
         const auto name
             = [](int code) { return KTDirectoryName(static_cast<KTDirectoryNameEnum>(code)).name(); };
-        QTEST(dlpType.visibleName(), "name");
+        QCOMPARE(dlpType.visibleName(), visibleName);
         QCOMPARE(dlpType.dlpPath(false), name(directory));
         QCOMPARE(dlpType.dlpPath(true), name(flaggedDirectory));
         QCOMPARE(dlpType.dlpPath(false).isEmpty(), directory == 0);
-        QTEST(dlpType.queryValue(), "query");
-        QCOMPARE(dlpType.describe(), QString::number(value) + u" | "_s + dlpType.encode());
+        QCOMPARE(dlpType.queryValue(), query);
+        QCOMPARE(dlpType.describe(), described);
+    }
+
+    void readsKeywords()
+    {
+        KTTest::check(KTTest::readKeywords<KTMaterialType>,
+                      {"bock, Retro_Print, picture_bundle -> 48||retro_print, picture_bundle"});
+        QCOMPARE(KTTest::withBits<KTMaterialType>(15).encodeCSV(),
+                 u"notebook, picture_box, card_playing, deco_print"_s);
+        KTTest::check(KTTest::readKeywords<KTDlpType>, {"style_v2,mask,bock -> 18||style_v2, mask"});
     }
 };
 

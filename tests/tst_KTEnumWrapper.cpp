@@ -6,10 +6,7 @@
 #include <QtTest>
 
 #include <atomic>
-#include <limits>
 #include <stdexcept>
-#include <thread>
-#include <vector>
 
 enum KTToyEnum : qint32 { KTToyA = 1, KTToyB = 2, KTToyC = 4 };
 
@@ -56,80 +53,48 @@ private Q_SLOTS:
     // The first test function, since the table is built once per process.
     void fillsTableOnceForAllThreads()
     {
-        bool thrown = false;
-        try {
-            KTToy(1).countBits();
-        } catch (const std::runtime_error &) {
-            thrown = true;
-        }
-        QVERIFY2(thrown, "counting builds the table too");
-
-        std::vector<KTEnumToStringTable<KTToyEnum> *> tables(8);
-        std::vector<std::thread> threads;
-        for (auto &table : tables)
-            threads.emplace_back([&table] { table = KTToy(1).enumToStringTable(); });
-        for (std::thread &thread : threads)
-            thread.join();
+        QVERIFY_EXCEPTION_THROWN(KTToy(1).countBits(), std::runtime_error);
+        KTEnumToStringTable<KTToyEnum> *tables[8];
+        KTTest::runInThreads(8, [&](int i) { tables[i] = KTToy(1).enumToStringTable(); });
         for (const auto *const table : tables)
-            QCOMPARE(table, tables.front());
+            QCOMPARE(table, tables[0]);
         QCOMPARE(KTToy::fillCount.load(), 2);
-        QCOMPARE(tables.front()->keywordToValue.size(), 2);
-    }
-
-    void countsBits_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("count");
-        QTest::newRow("null") << 0 << 0;
-        QTest::newRow("one") << 4 << 1;
-        QTest::newRow("two") << 5 << 2;
-        QTest::newRow("all positive") << std::numeric_limits<int>::max() << 31;
-        QTest::newRow("sign bit") << std::numeric_limits<int>::min() << 0;
-        QTest::newRow("minus one") << -1 << 0;
-    }
-    void countsBits()
-    {
-        QFETCH(int, value);
-        QFETCH(int, count);
-        const KTToy toy(value);
-        QCOMPARE(toy.countBits(), count);
-        QCOMPARE(toy.hasExactlyOneBit(), count == 1);
-        QCOMPARE(toy.isConglumerate(), count > 1);
-        QCOMPARE(toy.isValid(), value != 0);
-        QCOMPARE(toy.isNull(), value == 0);
+        QCOMPARE(tables[0]->keywordToValue.size(), 2);
     }
 
     void asksForBits()
     {
+        // The number of bits; whether there is exactly one, more than one, any value, none.
+        const auto facts = [](int value) {
+            const KTToy toy(value);
+            return KTTest::text(toy.countBits(), toy.hasExactlyOneBit(), toy.isConglumerate(), toy.isValid(),
+                                toy.isNull());
+        };
+        KTTest::check<int>(facts,
+                           {"0 -> 0|-|-|-|+", "4 -> 1|+|-|+|-", "5 -> 2|-|+|+|-", "2147483647 -> 31|-|+|+|-",
+                            "-2147483648 -> 0|-|-|+|-", "-1 -> 0|-|-|+|-"});
         const KTToy toy(5);
-        QVERIFY(toy.containsAll(static_cast<KTToyEnum>(0)));
-        QVERIFY(!toy.matches(static_cast<KTToyEnum>(0)));
-        QVERIFY(toy.matches(KTToy(6)));
-        QVERIFY(!toy.containsAll(KTToy(6)));
-        QVERIFY(!toy.hasValue(KTToyA));
-        QCOMPARE(static_cast<int>(toy & KTToy(6)), 4);
-        QCOMPARE(static_cast<int>(toy | KTToy(2)), 7);
-        QCOMPARE(static_cast<int>(toy.reducedTo(KTToyA)), 1);
-        QCOMPARE(static_cast<int>(toy.value()), 5);
+        const auto none = static_cast<KTToyEnum>(0);
+        QVERIFY(toy.containsAll(none) && !toy.matches(none) && toy.matches(KTToy(6)));
+        QVERIFY(!toy.containsAll(KTToy(6)) && !toy.hasValue(KTToyA));
+        QVERIFY((toy & KTToy(6)) == 4 && (toy | KTToy(2)) == 7 && toy.reducedTo(KTToyA) == 1
+                && toy.value() == 5);
         QVERIFY(KTToy(-1) < toy && toy > KTToy(4) && toy <= KTToy(5));
     }
 
     void changesBitsThroughTheVirtualOperations()
     {
         KTToy toy(5);
+        const auto state = [&toy] { return KTTest::text(int(toy.value()), toy.excluded, toy.expanded); };
         toy.setBit(KTToyB, false);
-        QCOMPARE(static_cast<int>(toy.value()), 5);
-        QCOMPARE(toy.excluded, 1);
+        QCOMPARE(state(), u"5|1|0"_s);
         toy.setBit(KTToyB, true);
-        QCOMPARE(toy.expanded, 1);
+        QCOMPARE(state(), u"7|1|1"_s);
         toy.toggleBits(KTToy(9));
-        QCOMPARE(static_cast<int>(toy.value()), 14);
-        QCOMPARE(toy.excluded, 2);
-        QCOMPARE(toy.expanded, 2);
-        QCOMPARE(&toy.expandTo(KTToy(1)), &toy);
-        QCOMPARE(toy.expanded, 3);
-        QCOMPARE(&(toy &= KTToy(7)), &toy);
-        QCOMPARE(static_cast<int>(toy.reduceTo(static_cast<KTToyEnum>(6)).value()), 6);
+        QCOMPARE(state(), u"14|2|2"_s);
+        QVERIFY(&toy.expandTo(KTToy(1)) == &toy && &(toy &= KTToy(7)) == &toy);
+        QCOMPARE(state(), u"7|2|3"_s);
+        QCOMPARE(int(toy.reduceTo(static_cast<KTToyEnum>(6)).value()), 6);
     }
 
     void sharesTableAcrossLibraries()

@@ -3,7 +3,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QDataStream>
 #include <QtTest>
 
 class tst_KTOrderId : public QObject
@@ -12,39 +11,26 @@ class tst_KTOrderId : public QObject
 private Q_SLOTS:
     void tellsNullFromEmpty_data()
     {
-        QTest::addColumn<QString>("session");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<int>("position");
-        QTest::addColumn<bool>("valid");
-        QTest::addColumn<QByteArray>("bytes");
+        const KTTest::Rows<QString, QString, int, bool, QByteArray> row;
         const QString s = u"s"_s;
         const QString e = u""_s;
-        QTest::newRow("complete") << s << s << 0 << true << QByteArray("000000020073 00000000 000000020073");
-        QTest::newRow("empty texts") << e << e << 258 << true << QByteArray("00000000 00000102 00000000");
-        QTest::newRow("position") << s << e << -1 << false << QByteArray("00000000 ffffffff 000000020073");
-        QTest::newRow("no order") << s << QString() << 1 << false
-                                  << QByteArray("ffffffff 00000001 000000020073");
-        QTest::newRow("no session") << QString() << e << 1 << false
-                                    << QByteArray("00000000 00000001 ffffffff");
+        row("complete", s, s, 0, true, "000000020073 00000000 000000020073");
+        row("empty texts", e, e, 258, true, "00000000 00000102 00000000");
+        row("position", s, e, -1, false, "00000000 ffffffff 000000020073");
+        row("no order", s, QString(), 1, false, "ffffffff 00000001 000000020073");
+        row("no session", QString(), e, 1, false, "00000000 00000001 ffffffff");
     }
     void tellsNullFromEmpty()
     {
-        QFETCH(QString, session);
-        QFETCH(QString, order);
-        QFETCH(int, position);
-        QFETCH(QByteArray, bytes);
+        const auto [session, order, position, valid, bytes]
+            = KTTest::row<QString, QString, int, bool, QByteArray>();
         KTOrderId orderId(order);
         const KTOrderProjectInfo info(session, orderId, position);
-        QTEST(info.isValid(), "valid");
+        QCOMPARE(info.isValid(), valid);
         QCOMPARE(orderId.isValid(), !order.isNull());
-        QByteArray written;
-        QDataStream stream(&written, QIODevice::WriteOnly);
-        orderId << stream;
-        info << stream;
-        QCOMPARE(written, QByteArray::fromHex(bytes.left(bytes.indexOf(' ')) + bytes));
-        QString debug;
-        QDebug(&debug) << info;
-        QCOMPARE(debug, u"\"%1\" %2 \"%3\" "_s.arg(order).arg(position).arg(session));
+        QCOMPARE(KTTest::streamed(info), QByteArray(bytes).replace(' ', ""));
+        QCOMPARE(KTTest::streamed(orderId), bytes.left(bytes.indexOf(' ')));
+        QCOMPARE(KTTest::logged(info), u"\"%1\" %2 \"%3\" "_s.arg(order).arg(position).arg(session));
         orderId.clear();
         QVERIFY(!orderId.isValid() && orderId == KTOrderId(u""_s));
     }

@@ -7,95 +7,68 @@
 #include <QSizeF>
 #include <QtTest>
 
-#include <limits>
+#include <climits>
 
 class tst_KTOrientation : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void derivesFromSize_data()
-    {
-        QTest::addColumn<QSizeF>("size");
-        QTest::addColumn<int>("value");
-        QTest::newRow("slim landscape") << QSizeF(100.0, 50.0) << 16;
-        QTest::newRow("below slim landscape") << QSizeF(99.9, 50.0) << 2;
-        QTest::newRow("slim portrait") << QSizeF(50.0, 100.0) << 8;
-        QTest::newRow("above slim portrait") << QSizeF(50.1, 100.0) << 1;
-        QTest::newRow("portrait") << QSizeF(90.0, 100.0) << 1;
-        QTest::newRow("above portrait") << QSizeF(90.1, 100.0) << 4;
-        QTest::newRow("square") << QSizeF(110.0, 100.0) << 4;
-        QTest::newRow("above square") << QSizeF(110.1, 100.0) << 2;
-        QTest::newRow("nothing") << QSizeF(0.0, 0.0) << 0;
-        QTest::newRow("no height") << QSizeF(10.0, 0.0) << 16;
-        QTest::newRow("no width") << QSizeF(0.0, 10.0) << 8;
-        QTest::newRow("negative width") << QSizeF(-10.0, 10.0) << 0;
-        QTest::newRow("negative height") << QSizeF(10.0, -10.0) << 0;
-        QTest::newRow("not a number") << QSizeF(std::numeric_limits<double>::quiet_NaN(), 10.0) << 2;
-    }
     void derivesFromSize()
     {
-        QFETCH(QSizeF, size);
-        QTEST(int(KTOrientation(KTOrientationSquare).fromSize(size)), "value");
-        QTEST(int(KTOrientation(size).value()), "value");
-        QTEST(int(KTOrientation::createFromSize(size).value()), "value");
-        QTEST(int(KTOrientation(u"bock"_s, size).value()), "value");
-        QCOMPARE(KTOrientation(u"Quadratic"_s, size).value(), KTOrientationSquare);
-    }
-
-    void answersFormatQuestions_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("dlp");
-        QTest::addColumn<QPoint>("folds");
-        QTest::addColumn<double>("ratio");
-        QTest::addColumn<QString>("adjective");
-        const QPoint portrait(53, -54);
-        const QPoint landscape(40, -41);
-        QTest::newRow("none") << 0 << u"portrait"_s << portrait << 1.0 << QString();
-        QTest::newRow("portrait") << 1 << u"portrait"_s << portrait << 0.666666 << u"Hochkant-"_s;
-        QTest::newRow("slim portrait") << 8 << u"portrait"_s << portrait << 0.5 << u"schlanke Hochkant-"_s;
-        QTest::newRow("both portraits") << 9 << u"portrait"_s << portrait << 1.0 << QString();
-        QTest::newRow("all") << 31 << u"portrait"_s << portrait << 1.0 << QString();
-        QTest::newRow("landscape") << 2 << u"landscape"_s << landscape << 1.5 << u"Panorama-"_s;
-        QTest::newRow("slim landscape")
-            << 16 << u"landscape"_s << landscape << 2.0 << u"schlanke Panorama-"_s;
-        QTest::newRow("both landscapes") << 18 << u"landscape"_s << landscape << 1.0 << QString();
-        QTest::newRow("square") << 4 << u"square"_s << QPoint(44, -45) << 1.0 << u"quadratische "_s;
-        QTest::newRow("mixture") << 3 << u"portrait"_s << QPoint() << 1.0 << QString();
-        QTest::newRow("slim ones") << 24 << u"portrait"_s << QPoint() << 1.0 << QString();
-        QTest::newRow("unknown bit") << 33 << u"portrait"_s << QPoint() << 1.0 << QString();
-    }
-    void answersFormatQuestions()
-    {
-        QFETCH(int, value);
-        QFETCH(QString, adjective);
-        const KTOrientation orientation(static_cast<KTOrientationEnum>(value));
-        QTEST(orientation.encodeForDLP(), "dlp");
-        QTEST(QPoint(orientation.foldMargin(1000), orientation.foldMargin(-1000)), "folds");
-        QTEST(orientation.defaultWidthHeightRatio(), "ratio");
-        QCOMPARE(orientation.humanReadable(), adjective);
-        QCOMPARE(orientation.humanReadable().isNull(), adjective.isNull());
-    }
-
-    void knowsItsFamilies()
-    {
-        using KTTest::bitsWhere;
-        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isPortrait(); }), 9);
-        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isLandscape(); }), 18);
-        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isQuadratic(); }), 4);
+        const KTOrientation square(KTOrientationSquare);
+        // Whatever derives it: a square one that is asked, the constructors, the factory; and a keyword wins.
+        const auto derived = [&](const QString &text) {
+            const QSizeF size(text.section(u'x', 0, 0).toDouble(), text.section(u'x', 1).toDouble());
+            const int value = square.fromSize(size);
+            const bool areSame = value == KTOrientation(size).value()
+                && value == KTOrientation::createFromSize(size).value()
+                && value == KTOrientation(u"bock"_s, size).value();
+            return KTTest::text(value, areSame, KTOrientation(u"Quadratic"_s, size) == square);
+        };
+        KTTest::check(derived,
+                      {"100x50 -> 16|+|+", "99.9x50 -> 2|+|+", "50x100 -> 8|+|+", "50.1x100 -> 1|+|+",
+                       "90x100 -> 1|+|+", "90.1x100 -> 4|+|+", "110x100 -> 4|+|+", "110.1x100 -> 2|+|+",
+                       "0x0 -> 0|+|+", "10x0 -> 16|+|+", "0x10 -> 8|+|+", "-10x10 -> 0|+|+",
+                       "10x-10 -> 0|+|+", "nanx10 -> 2|+|+"});
+        QCOMPARE(square.value(), KTOrientationSquare);
         QCOMPARE(KTOrientation::createFromPageTilt(-0.0).value(), KTOrientationLandscape);
         QCOMPARE(KTOrientation::createFromPageTilt(90).value(), KTOrientationPortrait);
     }
 
-    void writesTemplate()
+    void readsAndWritesKeywords()
     {
-        QDomElement element = KTTest::element(u"<t/>"_s);
-        KTOrientation(KTOrientationAll).toTemplates2Format(element);
-        KTOrientation().toTemplates2Format(element);
-        QVERIFY(element.firstChild().isNull());
-        KTOrientation(u"square,landscape_slim"_s).toTemplates2Format(element);
-        QCOMPARE(KTTest::xml(element),
-                 u"<t><orientation>square</orientation><orientation>landscape_slim</orientation></t>"_s);
+        KTTest::check(KTTest::readKeywords<KTOrientation>,
+                      {"landscape_large -> 2|landscape|landscape", "quadratic -> 4|square|square",
+                       "square,landscape -> 6|portrait|landscape, square", "bock -> 0|portrait|portrait",
+                       "all -> 31|all|portrait, landscape, square, portrait_slim, landscape_slim"});
+        KTTest::check<int>(
+            KTTest::templateOf<KTOrientation>,
+            {"31 -> <t/>", "0 -> <t/>",
+             "20 -> <t><orientation>square</orientation><orientation>landscape_slim</orientation></t>"});
+    }
+
+    void answersFormatQuestions()
+    {
+        // For layouts, the folds of a margin and its negative, the ratio and the adjective.
+        const auto answers = [](int bits) {
+            const auto format = KTTest::withBits<KTOrientation>(bits);
+            const QString adjective = format.humanReadable();
+            return KTTest::text(format.encodeForDLP(), format.foldMargin(1000), format.foldMargin(-1000),
+                                format.defaultWidthHeightRatio(), adjective.isNull() ? u"none"_s : adjective);
+        };
+        KTTest::check<int>(answers,
+                           {"0 -> portrait|53|-54|1|none", "1 -> portrait|53|-54|0.666666|Hochkant-",
+                            "8 -> portrait|53|-54|0.5|schlanke Hochkant-", "9 -> portrait|53|-54|1|none",
+                            "31 -> portrait|53|-54|1|none", "2 -> landscape|40|-41|1.5|Panorama-",
+                            "16 -> landscape|40|-41|2|schlanke Panorama-", "18 -> landscape|40|-41|1|none",
+                            "4 -> square|44|-45|1|quadratische ", "3 -> portrait|0|0|1|none",
+                            "24 -> portrait|0|0|1|none", "33 -> portrait|0|0|1|none"});
+        using KTTest::bitsWhere;
+        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isPortrait(); }), 9);
+        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isLandscape(); }), 18);
+        QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isQuadratic(); }), 4);
+        QVERIFY(KTTest::withBits<KTOrientation>(24).isLandscape());
+        QCOMPARE(KTOrientation(KTOrientationPortrait).foldMargin(INT_MAX), 115231825);
     }
 };
 

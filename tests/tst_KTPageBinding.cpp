@@ -1,6 +1,6 @@
 #include <KTPageBinding.h>
 
-#include "KTTestSupport.h"
+#include "KTClassificationTest.h"
 
 #include <QtTest>
 
@@ -8,27 +8,22 @@ class tst_KTPageBinding : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void isNamedAndWritten_data()
+    void readsNamesAndWrites()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("xml");
-        QTest::newRow("glue") << 1 << u"klassische Buchbindung"_s << u"<t/>"_s;
-        QTest::newRow("lay-flat") << 2 << u"Lay-Flat-Bindung"_s << u"<t/>"_s;
-        QTest::newRow("stapled") << 4 << u"R\u00fcckstichbindung"_s << u"<t/>"_s;
-        QTest::newRow("spiral") << 8 << QString() << u"<t><pageBinding>spiral</pageBinding></t>"_s;
-        QTest::newRow("spiral or stapled") << 12 << QString() << u"<t/>"_s;
-        QTest::newRow("unknown bit") << 24 << QString() << u"<t><pageBinding>spiral, </pageBinding></t>"_s;
-        QTest::newRow("unknown") << 0 << QString() << u"<t/>"_s;
-    }
-    void isNamedAndWritten()
-    {
-        QFETCH(int, value);
-        const KTPageBinding binding(static_cast<KTPageBindingEnum>(value));
-        QTEST(binding.humanReadableName(), "name");
-        QDomElement element = KTTest::element(u"<t/>"_s);
-        binding.toTemplates2Format(element);
-        QTEST(KTTest::xml(element), "xml");
+        const auto binding = [](const QString &text) {
+            const KTPageBinding read(text);
+            return KTTest::text(int(read.value()), read.encode(), read.humanReadableName(),
+                                KTTest::templateOf<KTPageBinding>(read.value()));
+        };
+        KTTest::check(
+            binding,
+            {"glued -> 1|glue|klassische Buchbindung|<t/>", "Lay_Flat -> 2|layflat|Lay-Flat-Bindung|<t/>",
+             "stapled -> 4|stapled|Rückstichbindung|<t/>",
+             "spiral -> 8|spiral||<t><pageBinding>spiral</pageBinding></t>", "spiral,stapled -> 12|||<t/>",
+             "unknown -> 0|unknown||<t/>", "bock -> 0|unknown||<t/>"});
+        // Bits without a name are written too.
+        QCOMPARE(KTTest::templateOf<KTPageBinding>(24), u"<t><pageBinding>spiral, </pageBinding></t>"_s);
+        QCOMPARE(KTPageBinding::pageBindingNames()->map.size(), 3);
     }
 };
 

@@ -50,52 +50,45 @@ class tst_KTPageCountOrganization : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void readsElement_data()
-    {
-        QTest::addColumn<QString>("attributes");
-        QTest::addColumn<QString>("expected"); // in general, for a picture box
-        const auto row = [](const char *title, const char *attributes, const char *expected) {
-            QTest::newRow(title) << QString::fromUtf8(attributes) << QString::fromUtf8(expected);
-        };
-        const char *const all = "pages='4' max_pages='9' page_step='2' pieces='3'";
-        const char *const malformed = "pages='x' max_pages='7' page_step='1.5' pieces='2147483648'";
-        row("nothing", "", "min: 1; max: 1; increment: 0|min: 1; max: 30; increment: 1");
-        row("pages", "pages='5'", "min: 5; max: 5; increment: 0|min: 5; max: 34; increment: 1");
-        row("all", all, "min: 12; max: 27; increment: 2|min: 4; max: 9; increment: 2");
-        row("malformed", malformed, "min: 1; max: 7; increment: 0|min: 1; max: 7; increment: 1");
-        row("huge", "pages='2147483640' pieces='2000'",
-            "min: 2147483647; max: 2147483647; increment: 0|min: 2147483640; max: 2147483647; increment: 1");
-    }
     void readsElement()
     {
-        QFETCH(QString, attributes);
-        const QDomElement element = KTTest::element(u"<page %1/>"_s.arg(attributes));
-        QTEST(KTPageCountOrganization::createFromProductsXML(element).dump() + QLatin1Char('|')
-                  + KTPageCountOrganization::createFromProductsXMLForPictureBox(element).dump(),
-              "expected");
+        // In general, and for a picture box.
+        const auto read = [](const QString &attributes) {
+            const QDomElement element = KTTest::element(u"<page %1/>"_s.arg(attributes));
+            return KTTest::text(KTPageCountOrganization::createFromProductsXML(element).dump(),
+                                KTPageCountOrganization::createFromProductsXMLForPictureBox(element).dump());
+        };
+        KTTest::check(read,
+                      {" -> min: 1; max: 1; increment: 0|min: 1; max: 30; increment: 1",
+                       "pages='5' -> min: 5; max: 5; increment: 0|min: 5; max: 34; increment: 1",
+                       "pages='4' max_pages='9' page_step='2' pieces='3' -> min: 12; max: 27; increment: "
+                       "2|min: 4; max: 9; increment: 2",
+                       "pages='x' max_pages='7' page_step='1.5' pieces='2147483648' -> min: 1; max: 7; "
+                       "increment: 0|min: 1; max: 7; increment: 1",
+                       "pages='2147483640' pieces='2000' -> min: 2147483647; max: 2147483647; increment: "
+                       "0|min: 2147483640; max: 2147483647; increment: 1"});
     }
 
-    void answers_data()
-    {
-        QTest::addColumn<Numbers>("input"); // minimum, maximum, increment, page count
-        QTest::addColumn<Numbers>("expected");
-        const auto row = [](const char *title, const Numbers &input, const Numbers &expected) {
-            QTest::newRow(title) << input << expected;
-        };
-        row("between steps", {24, 96, 4, 30}, {32, 1, 19, 144, 32, 96, 24, 96, 1, 1, 0, 1, 0});
-        row("below", {24, 96, 4, 10}, {24, 0, 19, 64, 24, 96, 14, 86, 1, 1, 0, 0, 0});
-        row("above", {24, 96, 4, 200}, {96, 44, 19, 824, 96, 96, 24, 96, 1, 1, 0, 0, 0});
-        row("beyond the last step", {24, 98, 4, 97}, {100, 18, 19, 412, 100, 98, 24, 98, 1, 0, 0, 1, 0});
-        row("no increment", {20, 40, 0, 30}, {20, 0, 1, 20, 20, 40, 20, 40, 0, 0, 0, 1, 1});
-        row("one count", {24, 24, 0, 23}, {24, 0, 1, 24, 24, 24, 1, 1, 1, 1, 0, 0, 0});
-        row("zero", {0, 0, 0, 0}, {0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1});
-        row("inverted", {30, 20, 4, 40}, {30, 2, -1, 190, 30, 20, 30, 20, 0, 0, 0, 0, 0});
-    }
     void answers()
     {
-        QFETCH(Numbers, input);
-        const KTIntRange range(input.at(0), input.at(1));
-        QTEST(::answers(KTPageCountOrganization(range, input.at(2)), input.at(3)), "expected");
+        // Minimum, maximum, increment and page count give all answers.
+        const auto answered = [](const QString &input) {
+            const QStringList numbers = input.split(u' ');
+            const KTIntRange range(numbers.at(0).toInt(), numbers.at(1).toInt());
+            QStringList texts;
+            for (const int answer :
+                 ::answers(KTPageCountOrganization(range, numbers.at(2).toInt()), numbers.at(3).toInt()))
+                texts.append(QString::number(answer));
+            return texts.join(u' ');
+        };
+        KTTest::check(answered,
+                      {"24 96 4 30 -> 32 1 19 144 32 96 24 96 1 1 0 1 0",
+                       "24 96 4 10 -> 24 0 19 64 24 96 14 86 1 1 0 0 0",
+                       "24 96 4 200 -> 96 44 19 824 96 96 24 96 1 1 0 0 0",
+                       "24 98 4 97 -> 100 18 19 412 100 98 24 98 1 0 0 1 0",
+                       "20 40 0 30 -> 20 0 1 20 20 40 20 40 0 0 0 1 1",
+                       "24 24 0 23 -> 24 0 1 24 24 24 1 1 1 1 0 0 0", "0 0 0 0 -> 0 0 1 0 0 0 0 0 0 0 1 1 1",
+                       "30 20 4 40 -> 30 2 -1 190 30 20 30 20 0 0 0 0 0"});
     }
 
     void agreesWithTheModel()
@@ -121,9 +114,8 @@ private Q_SLOTS:
         QCOMPARE(pages.clone(false), pages);
         QCOMPARE(pages.clone(true), KTPageCountOrganization(KTIntRange(24, 24), 4));
         QVERIFY(pages != pages.clone(true) && pages != KTPageCountOrganization(pages.range(), 3));
-        QString debug;
-        QDebug(&debug) << KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint() << QString();
-        QCOMPARE(debug.trimmed(), u"min: 25; max: 25; increment: 0 \"\""_s);
+        QCOMPARE(KTTest::logged(KTPageCountOrganization::createForAdventCalendarWithDoorBackPrint()),
+                 u"min: 25; max: 25; increment: 0 "_s);
     }
 };
 

@@ -26,22 +26,17 @@ class tst_KTPageCountOrganizationListModel : public QObject
 private Q_SLOTS:
     void listsPageCounts_data()
     {
-        QTest::addColumn<KTPageCountOrganization>("pages");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<QString>("lastTexts");
-        const auto row = [](const char *title, const KTIntRange &range, int step, int rows,
-                            const char *texts) {
-            QTest::newRow(title) << KTPageCountOrganization(range, step) << rows << QString::fromUtf8(texts);
-        };
-        row("steps", {10, 40}, 10, 4, "40 Seiten 40 Fotos 40 SEITEN 40 FOTOS");
-        row("incomplete last step", {24, 98}, 4, 19, "96 Seiten 96 Fotos 96 SEITEN 96 FOTOS");
-        row("nothing yet", {0, 0}, 0, 1, "0 Seiten 0 Fotos 0 SEITEN 0 FOTOS");
-        row("negative step", {1, 9}, -1, 0, "   ");
-        row("most rows", {INT_MIN, INT_MAX}, 1, INT_MAX, "-2 Seiten -2 Fotos -2 SEITEN -2 FOTOS");
+        const KTTest::Rows<int, int, int, int, QString> row;
+        row("steps", 10, 40, 10, 4, "40 Seiten 40 Fotos 40 SEITEN 40 FOTOS");
+        row("incomplete last step", 24, 98, 4, 19, "96 Seiten 96 Fotos 96 SEITEN 96 FOTOS");
+        row("nothing yet", 0, 0, 0, 1, "0 Seiten 0 Fotos 0 SEITEN 0 FOTOS");
+        row("negative step", 1, 9, -1, 0, "   ");
+        row("most rows", INT_MIN, INT_MAX, 1, INT_MAX, "-2 Seiten -2 Fotos -2 SEITEN -2 FOTOS");
     }
     void listsPageCounts()
     {
-        QFETCH(KTPageCountOrganization, pages);
+        const auto [min, max, step, rows, lastTexts] = KTTest::row<int, int, int, int, QString>();
+        const KTPageCountOrganization pages(KTIntRange(min, max), step);
         KTPageCountOrganizationListModel model;
         QSignalSpy aboutToReset(&model, &QAbstractItemModel::modelAboutToBeReset);
         QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
@@ -55,9 +50,9 @@ private Q_SLOTS:
         UpperCaseTranslator translator;
         QCoreApplication::installTranslator(&translator);
         texts << lastText(false) << lastText(true);
-        QTEST(texts.join(QLatin1Char(' ')), "lastTexts");
+        QCOMPARE(texts.join(QLatin1Char(' ')), lastTexts);
         QCOMPARE(aboutToReset.size() + reset.size(), 8);
-        QTEST(model.rowCount(last), "rows");
+        QCOMPARE(model.rowCount(last), rows);
         QVERIFY(!last.data(Qt::EditRole).isValid() && !model.data(QModelIndex(), Qt::DisplayRole).isValid());
         QVERIFY(!last.parent().isValid() && model.columnCount(last) == 1);
         QVERIFY(model.lowestValue() == pages.minPages() && model.highestValue() == pages.maxPages());

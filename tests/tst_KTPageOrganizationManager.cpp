@@ -8,7 +8,6 @@
 #include <atomic>
 #include <functional>
 #include <memory>
-#include <thread>
 #include <vector>
 
 namespace {
@@ -37,15 +36,6 @@ public:
     mutable std::atomic<int> calls {0};
     std::function<void()> beforeFirst;
 };
-
-void runInThreads(const std::function<void(int)> &function)
-{
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
-        threads.emplace_back(function, i);
-    for (std::thread &thread : threads)
-        thread.join();
-}
 
 } // namespace
 
@@ -104,7 +94,7 @@ private Q_SLOTS:
         manager.setCalculator(calculator);
         calculator->beforeFirst = [] { throw 1; };
         QVERIFY_EXCEPTION_THROWN(manager.organization(type(1)), int);
-        runInThreads([&manager](int) { manager.organization(type(1)); });
+        KTTest::runInThreads(4, [&manager](int) { manager.organization(type(1)); });
         QCOMPARE(calculator->calls.load(), 2);
     }
 
@@ -114,7 +104,7 @@ private Q_SLOTS:
         auto *const calculator = new Calculator;
         manager.setCalculator(calculator);
         std::vector<KTPageCountOrganization *> seen[4];
-        runInThreads([&](int thread) {
+        KTTest::runInThreads(4, [&](int thread) {
             for (int i = 0; i < 50; ++i)
                 seen[thread].push_back(manager.organization(type(i)));
         });
@@ -122,7 +112,7 @@ private Q_SLOTS:
         QVERIFY(seen[0] == seen[1] && seen[0] == seen[2] && seen[0] == seen[3]);
 
         std::atomic<int> wrong {0};
-        runInThreads([&](int thread) {
+        KTTest::runInThreads(4, [&](int thread) {
             for (int i = 0; i < 200; ++i) {
                 if (thread == 0)
                     manager.clearCache();

@@ -17,16 +17,6 @@ KTPageContext context(int pageType, int alignment)
     return KTPageContext(static_cast<KTPageTypeEnum>(pageType), static_cast<KTPageAlignmentEnum>(alignment));
 }
 
-template <typename T>
-QString debugText(const T &value, bool spaces = true)
-{
-    QString text;
-    QDebug stream(&text);
-    stream.setAutoInsertSpaces(spaces);
-    stream << value << QString();
-    return text.trimmed();
-}
-
 } // namespace
 
 class tst_KTPageSizeSpec : public QObject
@@ -82,33 +72,23 @@ private Q_SLOTS:
                 && !KTBleedMargin(0, 1).isNull());
     }
 
-    void matchesContexts_data()
-    {
-        QTest::addColumn<int>("pageType");
-        QTest::addColumn<int>("alignment");
-        QTest::addColumn<bool>("matches");
-        QTest::addColumn<bool>("less");
-        QTest::newRow("equal") << 0x28 << 3 << true << false;
-        QTest::newRow("common bits, less") << 0x8 << 6 << true << true;
-        QTest::newRow("common bits, greater") << 0x29 << 2 << true << false;
-        QTest::newRow("alignment less") << 0x28 << 2 << true << true;
-        QTest::newRow("other page type") << 0x10 << 3 << false << true;
-        QTest::newRow("other alignment") << 0x28 << 4 << false << false;
-        QTest::newRow("no page type") << 0 << 3 << false << true;
-        QTest::newRow("no alignment") << 0x28 << 0 << false << true;
-        QTest::newRow("sign bit") << INT_MIN << 3 << false << true;
-    }
     void matchesContexts()
     {
-        QFETCH(int, pageType);
-        QFETCH(int, alignment);
-        const KTPageContext first = context(pageType, alignment);
+        // Page type and alignment before another context: whether both match, in parts too, is less, equal,
+        // valid.
         const KTPageContext second = context(0x28, 3);
-        QTEST(first.matchesWith(second), "matches");
-        QTEST(first.hasPageType(second.pageType()) && first.hasAlignment(second.alignment()), "matches");
-        QTEST(first < second, "less");
-        QCOMPARE(first == second, pageType == 0x28 && alignment == 3);
-        QCOMPARE(first.isValid(), pageType != 0 && alignment != 0);
+        const auto compared = [&](const QString &bits) {
+            const KTPageContext first
+                = context(bits.section(u' ', 0, 0).toInt(), bits.section(u' ', 1).toInt());
+            return KTTest::text(first.matchesWith(second),
+                                first.hasPageType(second.pageType())
+                                    && first.hasAlignment(second.alignment()),
+                                first < second, first == second, first.isValid());
+        };
+        KTTest::check(compared,
+                      {"40 3 -> +|+|-|+|+", "8 6 -> +|+|+|-|+", "41 2 -> +|+|-|-|+", "40 2 -> +|+|+|-|+",
+                       "16 3 -> -|-|+|-|+", "40 4 -> -|-|-|-|+", "0 3 -> -|-|+|-|-", "40 0 -> -|-|+|-|-",
+                       "-2147483648 3 -> -|-|+|-|+"});
     }
 
     void keysAreEquivalentWhateverTheirCounts()
@@ -126,14 +106,13 @@ private Q_SLOTS:
 
     void dumps()
     {
-        QCOMPARE(debugText(context(8, 2)), u"normalpage right \"\""_s);
-        QCOMPARE(debugText(context(8, 2), false), u"normalpage right\"\""_s);
+        QCOMPARE(KTTest::logged(context(8, 2)), u"normalpage right "_s);
         // No keyword stands for all alignments, hence two blanks.
-        const KTPageSizeKey key(KTPageTypeCover, -24);
-        QCOMPARE(debugText(key), u"cover  -24 \"\""_s);
-        QCOMPARE(debugText(key, false), u"cover  -24 \"\""_s);
-        QCOMPARE(debugText(KTPageSizeSpec(QSize(1, 2), KTMargins()), false),
-                 u"{ usable=QSize(1, 2), 4ScalingQSize(-1, -1)\"\""_s);
+        QCOMPARE(KTTest::logged(KTPageSizeKey(KTPageTypeCover, -24)), u"cover  -24 "_s);
+        QString debug;
+        QDebug(&debug).nospace() << context(8, 2) << KTPageSizeKey(KTPageTypeCover, -24)
+                                 << KTPageSizeSpec(QSize(1, 2), KTMargins());
+        QCOMPARE(debug, u"normalpage rightcover  -24 { usable=QSize(1, 2), 4ScalingQSize(-1, -1)"_s);
     }
 };
 

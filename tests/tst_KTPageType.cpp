@@ -1,7 +1,7 @@
 #include <KTPageType.h>
 #include <KTSpotColor.h>
 
-#include "KTTestSupport.h"
+#include "KTClassificationTest.h"
 
 #include <QtTest>
 
@@ -9,75 +9,63 @@ class tst_KTPageType : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void expandsToKeywords()
+    void readsAndWritesKeywords()
     {
-        KTPageType pageType(KTPageTypeSpine);
-        QCOMPARE(&pageType.expandToKeyword(u"cardfront, bock, duplexcard"_s), &pageType);
+        KTTest::check(
+            KTTest::readKeywords<KTPageType>,
+            {"Content -> 8|normalpage|normalpage",
+             "CalenderCoverFront -> 64|calendarcoverfront|calendarcoverfront",
+             "normaladvdoorback -> 1032|normaladvdoorback|normalpage, ",
+             "slipcasecover -> 786432|slipcasecover|slipcasefrontcover, slipcasebackcover",
+             "cover -> 984033|cover|spine, fullcover, calendarcoverfront, calendarcoverback, cromolinen, "
+             "leather, "
+             "slipcasespine, slipcaseemptyspine, slipcasefrontcover, slipcasebackcover",
+             "all -> 984057|all|spine, normalpage, emptypage, fullcover, calendarcoverfront, "
+             "calendarcoverback, "
+             "cromolinen, leather, slipcasespine, slipcaseemptyspine, slipcasefrontcover, slipcasebackcover",
+             "spine,bock -> 1|spine|spine", "bock -> 0||", " -> 0||"});
+        KTPageType pageType(u"spine"_s);
+        QCOMPARE(&pageType.expandToKeyword(u"cardfront, duplexcard"_s), &pageType);
         QCOMPARE(int(pageType.value()), 0x1003);
     }
 
-    void allowsSpotColors_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("allowed");
-        // Of: no colour, gloss, gold, silver ink, gloss and silver ink, gloss or gold as one colour.
-        QTest::newRow("normal page") << 0x8 << u"---++-"_s;
-        QTest::newRow("card front") << 0x2 << u"++++++"_s;
-        QTest::newRow("card back") << 0x4 << u"---++-"_s;
-        QTest::newRow("full cover") << 0x20 << u"++++++"_s;
-        QTest::newRow("linen") << 0x100 << u"+-+--+"_s;
-        QTest::newRow("leather full cover") << 0x220 << u"+-+--+"_s;
-    }
     void allowsSpotColors()
     {
-        QFETCH(int, value);
-        const KTPageType pageType(static_cast<KTPageTypeEnum>(value));
-        QString allowed;
-        for (const QList<int> &colors : {
-                 QList<int>(), {1 },
-                  {2 },
-                  {16},
-                  {1,  16},
-                  {3 }
-        }) {
-            QList<KTSpotColor> list;
-            for (const int color : colors)
-                list.append(static_cast<KTSpotColorEnum>(color));
-            allowed.append(pageType.isSpotColorAllowed(list) ? u'+' : u'-');
-        }
-        QTEST(allowed, "allowed");
+        // Of: no colour, gloss, gold, silver ink, gloss and silver ink, gloss or gold as one colour.
+        const QList<KTSpotColor> lists[] = {
+            {                   },
+            {KTSpotColorGloss    },
+            {KTSpotColorGold     },
+            {KTSpotColorSilverInk},
+            {KTSpotColorGloss,     KTSpotColorSilverInk},
+            {KTTest::withBits<KTSpotColor>(3)                   }
+        };
+        const auto allowed = [&](int bits) {
+            QString text;
+            for (const QList<KTSpotColor> &list : lists)
+                text.append(KTTest::withBits<KTPageType>(bits).isSpotColorAllowed(list) ? u'+' : u'-');
+            return text;
+        };
+        KTTest::check<int>(allowed,
+                           {"0x8 -> ---++-", "0x2 -> ++++++", "0x4 -> ---++-", "0x20 -> ++++++",
+                            "0x100 -> +-+--+", "0x200 -> +-+--+", "0x120 -> +-+--+"});
     }
 
-    void knowsItsRules_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("rules");
-        QTest::newRow("none") << 0 << u"1 1c00 -1 0 3"_s;
-        QTest::newRow("spine") << 0x1 << u"1 80001e00 0 7 3"_s;
-        QTest::newRow("card front") << 0x2 << u"1 1c00 -1 7 3"_s;
-        QTest::newRow("normal card front") << 0xa << u"0 1e00 -1 3 3"_s;
-        QTest::newRow("empty page") << 0x10 << u"2 0 -1 0 0"_s;
-        QTest::newRow("calendar front") << 0x40 << u"0 1e00 1 3 3"_s;
-        QTest::newRow("calendar back") << 0x80 << u"2 0 1 0 0"_s;
-        QTest::newRow("leather") << 0x200 << u"1 0 0 7 0"_s;
-        QTest::newRow("slipcase spine") << 0x10000 << u"0 1c00 2 7 3"_s;
-        QTest::newRow("slipcase empty spine") << 0x20000 << u"2 1c00 -1 7 3"_s;
-        QTest::newRow("slipcase back") << 0x80000 << u"0 1c00 1 7 3"_s;
-        QTest::newRow("slipcase cover") << 0xc0000 << u"1 1c00 -1 7 3"_s;
-        QTest::newRow("cover") << 0xf03e1 << u"1 1c00 0 7 3"_s;
-        QTest::newRow("normal page with spine") << 0x9 << u"1 1c00 0 7 3"_s;
-        QTest::newRow("normal page both ways") << 0xe << u"1 1c00 -1 7 3"_s;
-    }
     void knowsItsRules()
     {
-        QFETCH(int, value);
-        const KTPageType pageType(static_cast<KTPageTypeEnum>(value));
-        const QString rules = u"%1 %2 %3 %4 %5"_s.arg(pageType.productionRenderingRule())
-                                  .arg(pageType.renderingRule(), 0, 16)
-                                  .arg(pageType.explicitOrderPageNumber())
-                                  .arg(pageType.acceptTemplateRule())
-                                  .arg(pageType.acceptFotoRule());
-        QTEST(rules, "rules");
+        const auto rules = [](int bits) {
+            const auto pageType = KTTest::withBits<KTPageType>(bits);
+            return KTTest::text(
+                pageType.productionRenderingRule(), QString::number(pageType.renderingRule(), 16),
+                pageType.explicitOrderPageNumber(), pageType.acceptTemplateRule(), pageType.acceptFotoRule());
+        };
+        KTTest::check<int>(rules,
+                           {"0 -> 1|1c00|-1|0|3", "0x1 -> 1|80001e00|0|7|3", "0x2 -> 1|1c00|-1|7|3",
+                            "0xa -> 0|1e00|-1|3|3", "0x10 -> 2|0|-1|0|0", "0x40 -> 0|1e00|1|3|3",
+                            "0x80 -> 2|0|1|0|0", "0x200 -> 1|0|0|7|0", "0x10000 -> 0|1c00|2|7|3",
+                            "0x20000 -> 2|1c00|-1|7|3", "0x80000 -> 0|1c00|1|7|3", "0xc0000 -> 1|1c00|-1|7|3",
+                            "0xf03e1 -> 1|1c00|0|7|3", "0x9 -> 1|1c00|0|7|3", "0xe -> 1|1c00|-1|7|3",
+                            "0x408 -> 1|1c00|-1|7|3"});
     }
 };
 

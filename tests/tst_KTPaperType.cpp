@@ -11,58 +11,62 @@ class tst_KTPaperType : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void isNamed()
+    void namesPapers()
     {
-        QString names;
-        for (int value = 1; value < 0x100; value *= 2) {
-            const KTPaperType paper(static_cast<KTPaperTypeEnum>(value));
-            names += paper.humanReadableName() + u'|';
-            QVERIFY(KTPaperType::createFromHumanReadable(paper.humanReadableName()) == paper);
-        }
-        QCOMPARE(names,
-                 u"Digitaldruck Matt|Digitaldruck Hochglanz|Fotopapier Matt|Fotopapier Gl\u00e4nzend|"
-                 "Fotopapier Premium-Matt|Premiumpapier|Digitaldruck Premium-Matt|"
-                 "Digitaldruck Matt (100% recycelt)|"_s);
-        for (const int value : {0, 3, 0x100})
-            QCOMPARE(KTPaperType(static_cast<KTPaperTypeEnum>(value)).humanReadableName(),
-                     u"unbekannter Papiertyp"_s);
-        for (const QString &name : {u"premiumpapier"_s, u"unbekannter Papiertyp"_s, QString()})
-            QVERIFY(KTPaperType::createFromHumanReadable(name).isNull());
+        // The bits, the keyword, the name, and what is read from the name and from the name in capitals.
+        const auto paper = [](const QString &text) {
+            const KTPaperType one(text);
+            const QString name = one.humanReadableName();
+            const auto fromName
+                = [](const QString &own) { return int(KTPaperType::createFromHumanReadable(own).value()); };
+            return KTTest::text(int(one.value()), one.encode(), name, fromName(name),
+                                fromName(name.toUpper()));
+        };
+        KTTest::check(paper,
+                      {"Glossy -> 2|indigo-glossy|Digitaldruck Hochglanz|2|0",
+                       "digital_printing_glossy -> 2|indigo-glossy|Digitaldruck Hochglanz|2|0",
+                       "photopaper_glossy -> 8|fotopaper-glossy|Fotopapier Glänzend|8|0",
+                       "photopaper_classy_matt -> 16|fotopaper-premium-matt|Fotopapier Premium-Matt|16|0",
+                       "digital_printing_premium -> 32|premium|Premiumpapier|32|0",
+                       "digital_printing_matt -> 64|premium-matt|Digitaldruck Premium-Matt|64|0",
+                       "digital_printing_recycled -> 128|digital_printing_recycled|Digitaldruck Matt (100% "
+                       "recycelt)|128|0",
+                       "unbekanntes papier -> 0|unbekanntes Papier|unbekannter Papiertyp|0|0",
+                       "premium,glossy -> 34||unbekannter Papiertyp|0|0",
+                       "bock -> 1|indigo|Digitaldruck Matt|1|0", " -> 1|indigo|Digitaldruck Matt|1|0"});
     }
 
-    void readsSurfaces_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("surfaces");
-        QTest::newRow("both") << u"0"_s << u"12"_s;
-        QTest::newRow("glossy") << u"1"_s << u"1"_s;
-        QTest::newRow("matt") << u" 2"_s << u"2"_s;
-        QTest::newRow("union") << u"3"_s << QString();
-        QTest::newRow("hexadecimal") << u"0x1"_s << QString();
-        QTest::newRow("word") << u"matt"_s << QString();
-        QTest::newRow("beyond 32 bits") << u"4294967296"_s << QString();
-        QTest::newRow("empty") << QString() << QString();
-    }
     void readsSurfaces()
     {
-        QFETCH(QString, text);
-        QString surfaces;
-        for (const KTFotoPaperType &paper : KTFotoPaperType::createFromXTCI(text))
-            surfaces.append(paper.encodeForProduction());
-        QTEST(surfaces, "surfaces");
+        const auto surfaces = [](const QString &text) {
+            QString codes;
+            for (const KTFotoPaperType &paper : KTFotoPaperType::createFromXTCI(text))
+                codes.append(paper.encodeForProduction());
+            return codes;
+        };
+        KTTest::check(surfaces,
+                      {"0 -> 12", "1 -> 1", " 2 -> 2", "3 -> ", "-1 -> ", "0x1 -> ", "matt -> ",
+                       "4294967296 -> ", " -> "});
     }
 
-    void namesAndChoosesSurfaces()
+    void namesSurfaces()
     {
-        QCOMPARE(KTFotoPaperType(KTFotoPaperTypeMatt).humanReadableName(), u"Matt"_s);
+        const auto named = [](const QString &text) {
+            const KTFotoPaperType paper(text);
+            return KTTest::text(paper.encode(), paper.humanReadableName(), paper.encodeForProduction());
+        };
+        KTTest::check(named, {"Matt -> 2|Matt|2", "glossy -> 1|Glänzend|1", "1,2 -> ||"});
         QCOMPARE(KTFotoPaperType().humanReadableName(), u"Unbekanntes Fotopapier"_s);
-        const KTFotoPaperType both(u"1,2"_s);
-        QVERIFY(both.humanReadableName().isEmpty() && both.encodeForProduction().isEmpty());
         QVERIFY(KTFotoPaperType().encodeForProduction().isEmpty());
+    }
+
+    void choosesDefaultSurface()
+    {
         QCOMPARE(KTTest::bitsWhere<KTArticleClass>([](auto articleClass) {
                      return KTFotoPaperType::defaultFor(articleClass) == KTFotoPaperTypeGlossy;
                  }),
                  0x38000);
+        QVERIFY(KTFotoPaperType::defaultFor(KTArticleClassPhoto).isNull());
         QVERIFY(KTFotoPaperType::defaultFor(u"foto,book"_s).isNull());
     }
 };

@@ -11,10 +11,10 @@ class tst_KTPriceClassSet : public QObject
 private Q_SLOTS:
     void knowsFreeCodes()
     {
-        for (const char *code : {"", "0", "05", "0FOP"})
-            QVERIFY2(KTPriceClass::create(QString::fromUtf8(code)).isFree(), code);
-        for (const char *code : {"10", " 0", "FOP0", "\u0660"})
-            QVERIFY2(!KTPriceClass::create(QString::fromUtf8(code)).isFree(), code);
+        const auto isFree = [](const QString &code) { return KTPriceClass::create(code).isFree(); };
+        KTTest::check(
+            isFree,
+            {" -> +", "0 -> +", "05 -> +", "0FOP -> +", "10 -> -", " 0 -> -", "FOP0 -> -", "\u0660 -> -"});
     }
 
     void isBuiltFromCodes()
@@ -27,52 +27,40 @@ private Q_SLOTS:
              {KTPriceClassSet(code), KTPriceClassSet {code}, KTPriceClassSet {KTPriceClass(code)}})
             QCOMPARE(one.toString(), code);
         QCOMPARE(KTPriceClassSet(KTPriceClass()).size(), 1);
-        QString debug;
-        QDebug(&debug) << two;
         const bool emptyFirst = two.begin()->isEmpty();
         QCOMPARE(two.toString(), emptyFirst ? u",FOP1"_s : u"FOP1,"_s);
-        QCOMPARE(debug, emptyFirst ? u"\"\" \"FOP1\" "_s : u"\"FOP1\" \"\" "_s);
+        QCOMPARE(KTTest::logged(two), emptyFirst ? u"\"\" \"FOP1\" "_s : u"\"FOP1\" \"\" "_s);
     }
 
     void groupsKeepTheirGaps_data()
     {
-        QTest::addColumn<KTPriceClassSet>("group");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("inside");
-        QTest::addColumn<QString>("outside");
-        const auto row
-            = [](const KTPriceClassSet &group, int count, const char *inside, const char *outside) {
-                  QTest::newRow(inside)
-                      << group << count << QString::fromLatin1(inside) << QString::fromLatin1(outside);
-              };
+        const KTTest::Rows<QString, KTPriceClassSet, int, QString> row;
         using Set = KTPriceClassSet;
-        row(Set::spotColorGloss(), 13, "FOP2 FOP24 FOP38", "FOP1 FOP26 FOP28 FOP36");
-        row(Set::spotColorGoldSilver(), 24, "FOP1 FOP26 FOP37 FOP509 FOP551", "FOP27 FOP506");
-        row(Set::spotColorSilverInk(), 0, "", "FOP1");
-        row(Set::spotColorAll(), 37, "FOP1 FOP2 FOP505", "FOP27 FOP28 FOP29 FOP36 FOP506");
-        row(Set::bookGiftBoxes(), 4, "GBT4 GBT7", "GBT3 GBT8");
-        row(Set::calendarGiftBoxes(), 2, "GPT2 GPT4", "GPT3");
-        row(Set::framePassepartout(), 1, "PAS1", "GLP1");
-        row(Set::frameGlass(), 1, "GLP1", "LAM1");
-        row(Set::frameGlasses(), 2, "GLP1 LAM1", "PAS1");
-        row(Set::maps(), 2, "MAP1 MAP51", "MAP2");
-        row(Set::envelops(), 2, "ECC1 ECC2", "ECC3");
-        row(Set::calendarStrips(), 3, "CRL1 CRL3", "WST1");
-        row(Set::posterWoddenStrips(), 4, "PHA1 PHA4", "PHA5");
-        row(Set::calendarStandPriceClasses(), 1, "WST1", "CRL1");
-        row(Set::calendarFrameClasses(), 4, "WST1 CRL1 CRL2", "PHA1");
-        row(Set::mattCoverPriceClasses(), 8, "FOP29 FOP36", "FOP28 FOP37");
-        row(Set::flyleafPriceClasses(), 7, "FLF1 FLF7", "FLF8");
-        row(Set::designPriceClasses(), 7, "91 96 premium_design", "90 97");
-        row(Set::wallholderPriceClasses(), 16, "WH2 WH12 WH16 WH202 WH212", "WH3 WH13 WH15 WH1");
-        row(Set::videoNames(), 14, "VDO1 VDO9 VDO51 VDO55", "VDO10 VDO50 VDO56");
+        row("FOP2 FOP24 FOP38", Set::spotColorGloss(), 13, "FOP1 FOP26 FOP28 FOP36");
+        row("FOP1 FOP26 FOP37 FOP509 FOP551", Set::spotColorGoldSilver(), 24, "FOP27 FOP506");
+        row("", Set::spotColorSilverInk(), 0, "FOP1");
+        row("FOP1 FOP2 FOP505", Set::spotColorAll(), 37, "FOP27 FOP28 FOP29 FOP36 FOP506");
+        row("GBT4 GBT7", Set::bookGiftBoxes(), 4, "GBT3 GBT8");
+        row("GPT2 GPT4", Set::calendarGiftBoxes(), 2, "GPT3");
+        row("PAS1", Set::framePassepartout(), 1, "GLP1");
+        row("GLP1", Set::frameGlass(), 1, "LAM1");
+        row("GLP1 LAM1", Set::frameGlasses(), 2, "PAS1");
+        row("MAP1 MAP51", Set::maps(), 2, "MAP2");
+        row("ECC1 ECC2", Set::envelops(), 2, "ECC3");
+        row("CRL1 CRL3", Set::calendarStrips(), 3, "WST1");
+        row("PHA1 PHA4", Set::posterWoddenStrips(), 4, "PHA5");
+        row("WST1", Set::calendarStandPriceClasses(), 1, "CRL1");
+        row("WST1 CRL1 CRL2", Set::calendarFrameClasses(), 4, "PHA1");
+        row("FOP29 FOP36", Set::mattCoverPriceClasses(), 8, "FOP28 FOP37");
+        row("FLF1 FLF7", Set::flyleafPriceClasses(), 7, "FLF8");
+        row("91 96 premium_design", Set::designPriceClasses(), 7, "90 97");
+        row("WH2 WH12 WH16 WH202 WH212", Set::wallholderPriceClasses(), 16, "WH3 WH13 WH15 WH1");
+        row("VDO1 VDO9 VDO51 VDO55", Set::videoNames(), 14, "VDO10 VDO50 VDO56");
     }
     void groupsKeepTheirGaps()
     {
-        QFETCH(KTPriceClassSet, group);
-        QFETCH(QString, inside);
-        QFETCH(QString, outside);
-        QTEST(group.size(), "count");
+        const auto [inside, group, count, outside] = KTTest::row<QString, KTPriceClassSet, int, QString>();
+        QCOMPARE(group.size(), count);
         for (const QString &code : inside.split(QLatin1Char(' '), Qt::SkipEmptyParts))
             QVERIFY2(group.contains(code), qPrintable(code));
         for (const QString &code : outside.split(QLatin1Char(' ')))

@@ -11,7 +11,6 @@
 #include <limits>
 #include <stdexcept>
 #include <thread>
-#include <vector>
 
 namespace {
 
@@ -118,9 +117,7 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(registry.isValid(productType(1), FIRST), std::runtime_error);
         checker.answer = [](const KTProductType &) { return false; };
         // A lock that is still held would stop only another thread.
-        bool valid = true;
-        std::thread([&] { valid = registry.isValid(productType(1), FIRST); }).join();
-        QVERIFY(!valid);
+        KTTest::runInThreads(1, [&](int) { QVERIFY(!registry.isValid(productType(1), FIRST)); });
     }
 
     void asksOnceForAllThreads()
@@ -137,17 +134,12 @@ private Q_SLOTS:
                 return number == 0 || registry->isValid(productType(number - 1), FIRST);
             };
             registry->registerChecker(&checker);
-            std::vector<std::thread> threads;
-            for (int i = 0; i < threadCount; ++i) {
-                threads.emplace_back([&] {
-                    for (--waiting; waiting > 0;)
-                        std::this_thread::yield();
-                    for (int number = TYPES - 1; number >= 0; --number)
-                        objections += registry->isValid(productType(number), FIRST) ? 0 : 1;
-                });
-            }
-            for (std::thread &thread : threads)
-                thread.join();
+            KTTest::runInThreads(threadCount, [&](int) {
+                for (--waiting; waiting > 0;)
+                    std::this_thread::yield();
+                for (int number = TYPES - 1; number >= 0; --number)
+                    objections += registry->isValid(productType(number), FIRST) ? 0 : 1;
+            });
             registry->unregisterChecker(&checker);
             QCOMPARE(objections, 0);
             QCOMPARE(checker.asked, TYPES);

@@ -1,12 +1,11 @@
 #include <KTSingleton.h>
 
 #include "KTTestNeighbour.h"
+#include "KTTestSupport.h"
 
 #include <QtTest>
 
 #include <stdexcept>
-#include <thread>
-#include <vector>
 
 /** Fails to construct the first time. */
 class KTReluctant : public KTSingleton<KTReluctant>
@@ -35,14 +34,10 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(KTReluctant::instance(), std::runtime_error);
         QCOMPARE(KTReluctant::setups, 0);
 
-        std::vector<KTReluctant *> instances(8);
-        std::vector<std::thread> threads;
-        for (auto &instance : instances)
-            threads.emplace_back([&instance] { instance = KTReluctant::instance(); });
-        for (std::thread &thread : threads)
-            thread.join();
+        KTReluctant *instances[8];
+        KTTest::runInThreads(8, [&](int i) { instances[i] = KTReluctant::instance(); });
         for (const KTReluctant *const instance : instances)
-            QCOMPARE(instance, instances.front());
+            QCOMPARE(instance, instances[0]);
         QCOMPARE(KTReluctant::constructions, 2);
         QCOMPARE(KTReluctant::setups, 1);
     }

@@ -1,36 +1,30 @@
 #include <KTOrientation.h>
 #include <KTSpaceMagnitude.h>
 
+#include "KTClassificationTest.h"
 #include "KTMessageRecorder.h"
-#include "KTTestSupport.h"
 
 #include <QFont>
 #include <QtTest>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 
 namespace {
 
 constexpr int UNION = 192;
-constexpr int HIGHEST = std::numeric_limits<int>::max();
 
 KTSpaceMagnitude magnitude(int value)
 {
     return static_cast<KTSpaceMagnitudeEnum>(value);
 }
 
-QFont inPoints(double size)
+/** A font of that many points, or of that many pixels. */
+QFont fontOf(double pointSize, int pixelSize = 0)
 {
     QFont font;
-    font.setPointSizeF(size);
-    return font;
-}
-
-QFont inPixels(int size)
-{
-    QFont font;
-    font.setPixelSize(size);
+    pixelSize > 0 ? font.setPixelSize(pixelSize) : font.setPointSizeF(pointSize);
     return font;
 }
 
@@ -40,72 +34,73 @@ class tst_KTSpaceMagnitude : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void readsAndWritesKeywords()
+    {
+        KTTest::check(
+            KTTest::readKeywords<KTSpaceMagnitude>,
+            {"a4, 50CM2 -> 129|any|50cm2, 600cm2", "xl -> 1280|xl|900cm2, 2000cm2",
+             "normal -> 2812|normal|200cm2, 220cm2, 280cm2, 310cm2, 400cm2, 600cm2, 1200cm2, 2400cm2",
+             "any -> 4095|any|50cm2, 150cm2, 200cm2, 220cm2, 280cm2, 310cm2, 400cm2, 600cm2, 900cm2, "
+             "1200cm2, 2000cm2, 2400cm2"});
+        QCOMPARE(KTTest::text(KTSpaceMagnitude(u"A4"_s)), u"KTSpaceMagnitude: 600cm2"_s);
+    }
+
     void classifiesAreas()
     {
+        const auto classOf
+            = [](int area) { return int(KTSpaceMagnitude::fromSquareCentimeters(area).value()); };
         int value = 1;
         for (const int area : {100, 175, 204, 220, 295, 355, 512, 762, 950, 1900, 2100}) {
-            QCOMPARE(int(KTSpaceMagnitude::fromSquareCentimeters(area).value()), value);
+            QCOMPARE(classOf(area), value);
             value *= 2;
-            QCOMPARE(int(KTSpaceMagnitude::fromSquareCentimeters(area + 1).value()), value);
+            QCOMPARE(classOf(area + 1), value);
         }
-        QCOMPARE(int(KTSpaceMagnitude::fromSquareCentimeters(-HIGHEST).value()), 1);
-        QCOMPARE(int(KTSpaceMagnitude::fromSquareCentimeters(HIGHEST).value()), 2048);
+        QCOMPARE(classOf(INT_MIN), 1);
+        QCOMPARE(classOf(INT_MAX), 2048);
     }
 
-    void estimates_data()
-    {
-        QTest::addColumn<double>("areaSizes");
-        QTest::addColumn<int>("value");
-        QTest::newRow("zero") << -0.0 << 0;
-        QTest::newRow("300") << 0.1 << 32;
-        QTest::newRow("100.9 is cut off") << 30.0 / 100.9 << 1;
-        QTest::newRow("negative") << -0.1 << 1;
-        QTest::newRow("tiny") << 1e-300 << 2048;
-        QTest::newRow("denormal") << std::numeric_limits<double>::denorm_min() << 2048;
-        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 1;
-    }
     void estimates()
     {
-        QFETCH(double, areaSizes);
-        QTEST(int(KTSpaceMagnitude::estimateByAreaSizes(areaSizes).value()), "value");
+        const auto estimate
+            = [](double sizes) { return int(KTSpaceMagnitude::estimateByAreaSizes(sizes).value()); };
+        // The area of 100.9 is cut off; what is no size at all fills a page with one image or none.
+        QCOMPARE(KTTest::each<double>({0.0, -0.0, 0.1, 30.0 / 100.9, -0.1, INFINITY, NAN}, estimate),
+                 u"0 0 32 1 1 1 1"_s);
+        QCOMPARE(KTTest::each<double>({1e-300, std::numeric_limits<double>::denorm_min()}, estimate),
+                 u"2048 2048"_s);
     }
 
-    void knowsItsFacts_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("facts");
-        QTest::newRow("null") << 0 << u"Undefiniert 0 1 12 2.1 2.1"_s;
-        QTest::newRow("nameless class") << 1 << u"Undefiniert 50 1 12 1.5 1.5"_s;
-        QTest::newRow("one image only") << 8 << u"Compact Quadratisch 225 1 12 1.5 1.5"_s;
-        QTest::newRow("last with small font") << 32 << u"A5 310 5 12 1.5 1.5"_s;
-        QTest::newRow("by orientation") << 128 << u"A4 625 8 16 2.8 3"_s;
-        QTest::newRow("fewer photos") << 512 << u"A3 1250 14 24 3.2 3.2"_s;
-        QTest::newRow("largest") << 2048 << u"A2 2500 14 32 4 4"_s;
-        QTest::newRow("union") << UNION << u"Undefiniert 0 1 12 2.1 2.1"_s;
-        QTest::newRow("unknown bit") << 4096 << u"Undefiniert 0 1 12 2.1 2.1"_s;
-    }
     void knowsItsFacts()
     {
-        QFETCH(int, value);
-        const KTSpaceMagnitude one = magnitude(value);
-        const QString facts = u"%1 %2 %3 %4 %5 %6"_s.arg(one.humanReadableName())
-                                  .arg(one.normativeSize())
-                                  .arg(one.maxReasonableImagesPerPage())
-                                  .arg(one.suitableFontSizeInPoints())
-                                  .arg(one.optimumFotosPerPage(u"portrait_slim,square"_s))
-                                  .arg(one.optimumFotosPerPage(KTOrientationSquare));
-        QTEST(facts, "facts");
+        // The name, the normal size, the images, the font, the photos of portraits and of squares and
+        // landscapes.
+        const auto facts = [](int value) {
+            const KTSpaceMagnitude one = magnitude(value);
+            const double portrait = one.optimumFotosPerPage(KTOrientationPortraitSlim);
+            const double square = one.optimumFotosPerPage(KTOrientationSquare);
+            const bool areSame = portrait == one.optimumFotosPerPage(KTOrientation(u"portrait,square"_s))
+                && square == one.optimumFotosPerPage(KTOrientationLandscape);
+            return KTTest::text(one.humanReadableName(), one.normativeSize(),
+                                one.maxReasonableImagesPerPage(), one.suitableFontSizeInPoints(), portrait,
+                                square, areSame);
+        };
+        KTTest::check<int>(facts,
+                           {"0 -> Undefiniert|0|1|12|2.1|2.1|+", "1 -> Undefiniert|50|1|12|1.5|1.5|+",
+                            "8 -> Compact Quadratisch|225|1|12|1.5|1.5|+", "32 -> A5|310|5|12|1.5|1.5|+",
+                            "128 -> A4|625|8|16|2.8|3|+", "512 -> A3|1250|14|24|3.2|3.2|+",
+                            "2048 -> A2|2500|14|32|4|4|+", "192 -> Undefiniert|0|1|12|2.1|2.1|+",
+                            "4096 -> Undefiniert|0|1|12|2.1|2.1|+"});
     }
 
-    void readsNamesAndIsPrinted()
+    void readsNames()
     {
-        QVERIFY(KTSpaceMagnitude::createFromHumanReadable(u"Mini"_s) == KTSpaceMagnitude150cm2);
-        for (const QString &name : {u"a4"_s, u"Undefiniert"_s, QString()})
-            QVERIFY(KTSpaceMagnitude::createFromHumanReadable(name).isNull());
+        for (const int value : {2, 16, 64, 1024})
+            QVERIFY(KTSpaceMagnitude::createFromHumanReadable(magnitude(value).humanReadableName())
+                    == magnitude(value));
+        for (const char *const name : {"a4", "Undefiniert", "", "A4 "})
+            QVERIFY(KTSpaceMagnitude::createFromHumanReadable(QString::fromLatin1(name)).isNull());
         QCOMPARE(KTSpaceMagnitude::names()->map.size(), 11);
-        QString debug;
-        QDebug(&debug) << magnitude(128);
-        QCOMPARE(debug, u"\"KTSpaceMagnitude: 600cm2\" "_s);
+        QCOMPARE(KTSpaceMagnitude::names(), KTSpaceMagnitude::names());
     }
 
     void scales()
@@ -121,31 +116,28 @@ private Q_SLOTS:
 
     void adaptsFonts_data()
     {
-        QTest::addColumn<QFont>("font");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::addColumn<QFont>("adapted");
-        QTest::newRow("points") << inPoints(10.5) << 128 << 2048 << inPoints(21.0);
-        QTest::newRow("pixels") << inPixels(15) << 128 << 2048 << inPixels(30);
-        QTest::newRow("pixels rounded down") << inPixels(15) << 2048 << 128 << inPixels(7);
-        QTest::newRow("null") << inPixels(15) << 0 << 128 << inPixels(15);
-        QTest::newRow("infinite") << inPoints(10.5) << UNION << 128 << inPoints(10.5);
-        QTest::newRow("not a number") << inPixels(15) << UNION << UNION << inPixels(15);
-        QTest::newRow("zero points") << inPoints(10.5) << 128 << UNION << inPoints(10.5);
-        QTest::newRow("zero pixels") << inPixels(15) << 128 << UNION << inPixels(15);
-        QTest::newRow("less than a pixel") << inPixels(1) << 2048 << 1 << inPixels(1);
-        QTest::newRow("too many pixels") << inPixels(HIGHEST) << 128 << 2048 << inPixels(HIGHEST);
-        QTest::newRow("too many points") << inPoints(1e308) << 1 << 2048 << inPoints(HIGHEST);
+        const KTTest::Rows<QFont, int, int, QFont> row;
+        const QFont points = fontOf(10.5);
+        const QFont pixels = fontOf(0, 15);
+        row("points", points, 128, 2048, fontOf(21));
+        row("pixels", pixels, 128, 2048, fontOf(0, 30));
+        row("pixels rounded down", pixels, 2048, 128, fontOf(0, 7));
+        row("same class", points, 128, 128, points);
+        row("null", pixels, 0, 128, pixels);
+        row("infinite", points, UNION, 128, points);
+        row("not a number", pixels, UNION, UNION, pixels);
+        row("zero points", points, 128, UNION, points);
+        row("zero pixels", pixels, 128, UNION, pixels);
+        row("less than a pixel", fontOf(0, 1), 2048, 1, fontOf(0, 1));
+        row("too many pixels", fontOf(0, INT_MAX), 128, 2048, fontOf(0, INT_MAX));
+        row("too many points", fontOf(1e308), 1, 2048, fontOf(INT_MAX));
     }
     void adaptsFonts()
     {
-        QFETCH(QFont, font);
-        QFETCH(int, from);
-        QFETCH(int, to);
+        const auto [font, from, to, adapted] = KTTest::row<QFont, int, int, QFont>();
         const KTMessageRecorder recorder;
-        const QFont adapted = magnitude(from).adaptFont(font, magnitude(to));
+        QCOMPARE(magnitude(from).adaptFont(font, magnitude(to)), adapted);
         QVERIFY(recorder.messages().isEmpty());
-        QTEST(adapted, "adapted");
     }
 };
 

@@ -10,36 +10,25 @@ class tst_KTXML : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void readsNumbers_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("integer");
-        QTest::addColumn<double>("real");
-        QTest::addColumn<bool>("flag");
-        QTest::newRow("integer") << u" 17 "_s << 17 << 17.0 << true;
-        QTest::newRow("real") << u"-1.5e1"_s << 7 << -15.0 << true;
-        QTest::newRow("beyond int") << u"2147483648"_s << 7 << 2147483648.0 << true;
-        QTest::newRow("beyond double") << u"1e999"_s << 7 << 0.5 << true;
-        QTest::newRow("not finite") << u"inf"_s << 7 << 0.5 << true;
-        QTest::newRow("not a number") << u"nan"_s << 7 << 0.5 << true;
-        QTest::newRow("hexadecimal") << u"0x10"_s << 7 << 0.5 << true;
-        QTest::newRow("grouped") << u"1,000"_s << 7 << 0.5 << true;
-        QTest::newRow("empty") << u""_s << 7 << 0.5 << true;
-        QTest::newRow("zero") << u"0"_s << 0 << 0.0 << false;
-        QTest::newRow("false") << u"False"_s << 7 << 0.5 << false;
-        QTest::newRow("no boolean") << u"no"_s << 7 << 0.5 << true;
-    }
     void readsNumbers()
     {
-        QFETCH(QString, text);
-        QDomElement element = KTTest::element(u"<e/>"_s);
-        const QString name = u"a"_s;
-        element.setAttribute(name, text);
-        QTEST(KTXMLParser::intAttribute(element, name, 7), "integer");
-        QTEST(KTXMLParser::intAttribute(element.attributes(), name, 7), "integer");
-        QTEST(KTXMLParser::doubleAttribute(element, name, 0.5), "real");
-        QTEST(KTXMLParser::boolAttribute(element, name, true), "flag");
-        QCOMPARE(KTXMLParser::attribute(element, name, u"default"_s, true), text);
+        // As an integer (by default 7, from the element and its attributes), a real number (0.5), a flag
+        // (true).
+        const auto read = [](const QString &text) {
+            QDomElement element = KTTest::element(u"<e/>"_s);
+            const QString name = u"a"_s;
+            element.setAttribute(name, text);
+            const int integer = KTXMLParser::intAttribute(element, name, 7);
+            const bool areSame = integer == KTXMLParser::intAttribute(element.attributes(), name, 7)
+                && KTXMLParser::attribute(element, name, u"default"_s, true) == text;
+            return KTTest::text(integer, KTXMLParser::doubleAttribute(element, name, 0.5),
+                                KTXMLParser::boolAttribute(element, name, true), areSame);
+        };
+        KTTest::check(read,
+                      {" 17  -> 17|17|+|+", "-1.5e1 -> 7|-15|+|+", "2147483648 -> 7|2147483648|+|+",
+                       "1e999 -> 7|0.5|+|+", "inf -> 7|0.5|+|+", "nan -> 7|0.5|+|+", "0x10 -> 7|0.5|+|+",
+                       "1,000 -> 7|0.5|+|+", " -> 7|0.5|+|+", "0 -> 0|0|-|+", "False -> 7|0.5|-|+",
+                       "no -> 7|0.5|+|+"});
     }
 
     void readsMissingAttributeAsDefault()
@@ -54,24 +43,16 @@ private Q_SLOTS:
         }
     }
 
-    void convertsDistances_data()
-    {
-        QTest::addColumn<QString>("unit");
-        QTest::addColumn<double>("layoutUnits");
-        QTest::newRow("layout unit") << u"layoutunit"_s << 1.0;
-        QTest::newRow("millimetre") << u"MM"_s << 10.0;
-        QTest::newRow("inch") << u"inch"_s << 254.0;
-        QTest::newRow("centimetre") << u"cm"_s << 100.0;
-        QTest::newRow("point") << u"pt"_s << 254.0 / 72.0;
-    }
     void convertsDistances()
     {
-        QFETCH(QString, unit);
-        QFETCH(double, layoutUnits);
-        const KTDistance distance
-            = KTXMLParser::readDistance(KTTest::element(u"<e a='2.5'/>"_s), u"a"_s, 0.0, unit);
-        QCOMPARE(distance.layoutUnits(), 2.5 * layoutUnits);
-        QCOMPARE(distance.value(unit), 2.5);
+        const auto converted = [](const QString &unit) {
+            const auto distance
+                = KTXMLParser::readDistance(KTTest::element(u"<e a='2.5'/>"_s), u"a"_s, 0.0, unit);
+            return KTTest::text(distance.layoutUnits(), distance.value(unit));
+        };
+        KTTest::check(converted,
+                      {"layoutunit -> 2.5|2.5", "MM -> 25|2.5", "inch -> 635|2.5", "cm -> 250|2.5",
+                       "pt -> 8.81944444444|2.5"});
     }
 
     void warnsOfUnknownUnit()
