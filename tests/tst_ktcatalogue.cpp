@@ -87,6 +87,19 @@ private Q_SLOTS:
         QCOMPARE(run(u"show - --json"_s, "<catalogue/>").output, u"[]\n"_s);
     }
 
+    void showsKeywords()
+    {
+        const QString text = run(u"keywords KTPageAlignment"_s).output;
+        QVERIFY(text.startsWith(u"KTPageAlignment  alignment of page\n"_s));
+        QVERIFY(text.contains(u"  fullpage  0x8    auf dieser Seite\n"_s));
+        QVERIFY(text.endsWith(u"An unknown word and an empty text become 'left'.\n"_s));
+        const QJsonArray tables = QJsonDocument::fromJson(run(u"keywords --json"_s).output.toUtf8()).array();
+        QVERIFY(tables.size() >= 14);
+        const QJsonObject paper = tables.at(6).toObject();
+        QCOMPARE(paper.value(u"class"_s).toString(), u"KTPaperType"_s);
+        QCOMPARE(paper.value(u"unknownWord"_s).toObject().value(u"written"_s).toString(), u"indigo"_s);
+    }
+
     void refuses_data()
     {
         QTest::addColumn<QString>("arguments");
@@ -120,6 +133,15 @@ private Q_SLOTS:
         QTest::newRow("unknown value")
             << u"order SAMPLE --article 7301 --choose alcolor=reed"_s << QByteArray() << 1
             << u"does not offer 'reed' for 'alcolor'; offered: black, red, sand; did you mean 'red'?"_s;
+        QTest::newRow("unknown class")
+            << u"keywords KTPageAligment"_s << QByteArray() << 64 << u"did you mean 'KTPageAlignment'?"_s;
+        QTest::newRow("two classes") << u"keywords KTDlpType KTDlpType"_s << QByteArray() << 64
+                                     << u"'keywords' takes one class"_s;
+        QTest::newRow("unknown format")
+            << u"keywords --format csv"_s << QByteArray() << 64 << u"there are text, json and markdown"_s;
+        QTest::newRow("invalid page count")
+            << u"preview SAMPLE --article 7301 --pages 27 -o x.svg"_s << QByteArray() << 1
+            << u"the nearest valid page counts: 26 and 28"_s;
         QTest::newRow("control characters")
             << u"order - --article 1 --choose b=c"_s << one << 1 << u"offered: a\\u202e"_s;
     }
@@ -137,7 +159,7 @@ private Q_SLOTS:
 
     void helps()
     {
-        for (const char *command : {"", "show ", "order "}) {
+        for (const char *command : {"", "show ", "order ", "preview ", "keywords "}) {
             const Outcome outcome = run(QString::fromLatin1(command) + u"--help"_s);
             QCOMPARE(outcome.exitCode, 0);
             QVERIFY(outcome.output.contains(u"Example:\n  ktcatalogue "_s));

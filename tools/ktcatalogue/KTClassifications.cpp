@@ -72,7 +72,7 @@ template <typename CLASS>
 KTClassificationReading readText(const QString &text)
 {
     const CLASS value(text);
-    KTClassificationReading reading {written(value), displayName(value), {}, {}};
+    KTClassificationReading reading {written(value), displayName(value), {}, {}, value.value()};
     const auto &known = value.enumToStringTable()->keywordToValue;
     for (const QString &part : text.split(QLatin1Char(','))) {
         if (!known.contains(part.trimmed().toLower()))

@@ -14,6 +14,7 @@ struct KTClassificationReading
     QStringList unknown;
     /** What the library reads an unknown entry as; empty for nothing at all. */
     QString readAs;
+    qint64 value = 0;
 };
 
 /** One value of a keyword table. */

@@ -24,6 +24,8 @@ KTCommandLine::KTCommandLine(const QString &command, const QString &description,
         {QStringLiteral("h"), HELP_OPTION},
         QStringLiteral("Displays this help.")
     });
+    if (files == Files::None)
+        return;
     myParser.addPositionalArgument(
         QStringLiteral("FILE"), QStringLiteral("The catalogue; - for standard input."),
         command + (files == Files::One ? QStringLiteral(" FILE") : QStringLiteral(" [FILE...]")));

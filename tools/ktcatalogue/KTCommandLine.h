@@ -16,6 +16,7 @@ class KTCommandLine
 public:
     /** How many files are expected after the command. */
     enum class Files {
+        None,
         One,
         Any,
     };

@@ -1,5 +1,6 @@
 #include "KTCheckCommand.h"
 #include "KTCommandLine.h"
+#include "KTKeywordsCommand.h"
 #include "KTNearestWord.h"
 #include "KTOrderCommand.h"
 #include "KTPreviewCommand.h"
@@ -7,12 +8,12 @@
 
 #include <QGuiApplication>
 
-#include <algorithm>
-#include <iterator>
 #include <memory>
 
 namespace {
 
+/** The one that draws text, for which Qt wants more than a QCoreApplication. */
+constexpr char DRAWING_COMMAND[] = "preview";
 constexpr char PLATFORM_VARIABLE[] = "QT_QPA_PLATFORM";
 
 struct CommandRow
@@ -20,20 +21,19 @@ struct CommandRow
     const char *name;
     const char *description;
     KTExitCode (*run)(const QStringList &arguments);
-    /** Draws text, for which Qt wants more than a QCoreApplication. */
-    bool isDrawing = false;
 };
 
 constexpr CommandRow COMMANDS[] = {
-    {"show",    "Shows what the library makes of each article.",           &KTShowCommand::run,    false},
-    {"check",   "Finds what the library passes over in silence.",          &KTCheckCommand::run,   false},
-    {"order",   "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run,   false},
-    {"preview", "Draws the cover of an article to scale.",                 &KTPreviewCommand::run, true },
+    {"show",          "Shows what the library makes of each article.",           &KTShowCommand::run    },
+    {"check",         "Finds what the library passes over in silence.",          &KTCheckCommand::run   },
+    {"order",         "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run   },
+    {DRAWING_COMMAND, "Draws the cover of an article to scale.",                 &KTPreviewCommand::run },
+    {"keywords",      "Shows the keyword tables of the classifications.",        &KTKeywordsCommand::run},
 };
 
 QString help()
 {
-    QString text = QStringLiteral("Usage: %1 COMMAND FILE [OPTIONS]\n"
+    QString text = QStringLiteral("Usage: %1 COMMAND [FILE] [OPTIONS]\n"
                                   "Makes a catalogue of printed photo products visible.\n\n"
                                   "Options:\n"
                                   "  -h, --help     Displays this help.\n"
@@ -86,15 +86,10 @@ void printIfFatal(QtMsgType type, const QMessageLogContext &context, const QStri
         printMessage(type, context, text);
 }
 
-/** Drawing needs fonts but no display. */
+/** Drawing needs Qt's fonts, but no display. */
 std::unique_ptr<QCoreApplication> createApplication(int &argc, char *argv[])
 {
-    const QLatin1String command(argc > 1 ? argv[1] : "");
-    const bool isDrawing
-        = std::any_of(std::begin(COMMANDS), std::end(COMMANDS), [command](const CommandRow &row) {
-              return row.isDrawing && command == QLatin1String(row.name);
-          });
-    if (!isDrawing)
+    if (argc < 2 || qstrcmp(argv[1], DRAWING_COMMAND) != 0)
         return std::make_unique<QCoreApplication>(argc, argv);
     if (!qEnvironmentVariableIsSet(PLATFORM_VARIABLE))
         qputenv(PLATFORM_VARIABLE, "offscreen");

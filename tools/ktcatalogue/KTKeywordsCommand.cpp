@@ -1,0 +1,213 @@
+#include "KTKeywordsCommand.h"
+
+#include "KTClassifications.h"
+#include "KTCommandLine.h"
+#include "KTNearestWord.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+const QString SEPARATOR = QStringLiteral(", ");
+const QString NOTHING = QStringLiteral("nothing");
+/** No keyword of any table. */
+const QString UNKNOWN_WORD = QStringLiteral("?");
+
+QString hex(qint64 value)
+{
+    return QStringLiteral("0x") + QString::number(value, 16);
+}
+
+/** Where a catalogue has the keywords; empty for a classification that no attribute carries. */
+QString placeOf(const KTClassification &row, const QString &quote)
+{
+    if (row.attribute().isEmpty())
+        return QString();
+    return QStringLiteral("%3%1%3 of %3%2%3").arg(row.attribute(), row.element(), quote);
+}
+
+/** What the text is read as, in words. */
+QString resultOf(const KTClassification &row, const QString &text, const QString &quote)
+{
+    const KTClassificationReading reading = row.read(text);
+    return reading.value == 0 ? NOTHING : quote + reading.written + quote;
+}
+
+/** What happens to texts that are no keywords. */
+QString defaults(const KTClassification &row, const QString &quote)
+{
+    const QString unknown = resultOf(row, UNKNOWN_WORD, quote);
+    const QString empty = resultOf(row, QString(), quote);
+    const QString written = row.read(UNKNOWN_WORD).value == 0 ? row.read(UNKNOWN_WORD).written : QString();
+    return (unknown == empty
+                ? QStringLiteral("An unknown word and an empty text become %1").arg(unknown)
+                : QStringLiteral("An unknown word becomes %1, an empty text %2").arg(unknown, empty))
+        + (written.isEmpty() ? QString() : QStringLiteral(", which is written as %1%2%1").arg(quote, written))
+        + QLatin1Char('.');
+}
+
+/** Columns as wide as their widest text, two blanks apart. */
+QString aligned(const QVector<QStringList> &lines)
+{
+    QVector<int> widths(lines.constFirst().size(), 0);
+    for (const QStringList &line : lines) {
+        for (int i = 0; i < widths.size(); ++i)
+            widths[i] = std::max(widths.at(i), line.at(i).size());
+    }
+    QString text;
+    for (const QStringList &line : lines) {
+        QString joined;
+        for (int i = 0; i < widths.size(); ++i)
+            joined += QStringLiteral("  ") + line.at(i).leftJustified(widths.at(i));
+        while (joined.endsWith(QLatin1Char(' ')))
+            joined.chop(1);
+        text += joined + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString text(const QVector<KTClassification> &rows)
+{
+    QStringList texts;
+    for (const KTClassification &row : rows) {
+        QVector<QStringList> lines {
+            {QStringLiteral("keyword"), QStringLiteral("value"), QStringLiteral("name"),
+             QStringLiteral("also read")}
+        };
+        for (const KTKeywordInfo &keyword : row.keywords())
+            lines.append(
+                {keyword.written, hex(keyword.value), keyword.displayName, keyword.aliases.join(SEPARATOR)});
+        texts.append((row.className() + QStringLiteral("  ") + placeOf(row, QString())).trimmed()
+                     + QLatin1Char('\n') + aligned(lines) + QStringLiteral("  ")
+                     + defaults(row, QStringLiteral("'")) + QLatin1Char('\n'));
+    }
+    return texts.join(QLatin1Char('\n'));
+}
+
+QJsonObject readingJson(const KTClassificationReading &reading)
+{
+    return {
+        {QStringLiteral("value"),   reading.value      },
+        {QStringLiteral("written"), reading.written    },
+        {QStringLiteral("name"),    reading.displayName}
+    };
+}
+
+QString json(const QVector<KTClassification> &rows)
+{
+    QJsonArray tables;
+    for (const KTClassification &row : rows) {
+        QJsonArray keywords;
+        for (const KTKeywordInfo &keyword : row.keywords())
+            keywords.append(QJsonObject {
+                {QStringLiteral("keyword"), keyword.written                            },
+                {QStringLiteral("aliases"), QJsonArray::fromStringList(keyword.aliases)},
+                {QStringLiteral("value"),   keyword.value                              },
+                {QStringLiteral("name"),    keyword.displayName                        }
+            });
+        tables.append(QJsonObject {
+            {QStringLiteral("class"),       row.className()                    },
+            {QStringLiteral("element"),     row.element()                      },
+            {QStringLiteral("attribute"),   row.attribute()                    },
+            {QStringLiteral("keywords"),    keywords                           },
+            {QStringLiteral("unknownWord"), readingJson(row.read(UNKNOWN_WORD))},
+            {QStringLiteral("emptyText"),   readingJson(row.read(QString()))   }
+        });
+    }
+    return QString::fromUtf8(QJsonDocument(tables).toJson());
+}
+
+/** A page of its own: docs/keywords.md. */
+QString markdown(const QVector<KTClassification> &rows)
+{
+    const QString tick = QStringLiteral("`");
+    const auto ticked = [&tick](const QStringList &words) {
+        return words.isEmpty() ? QString() : tick + words.join(tick + SEPARATOR + tick) + tick;
+    };
+    QString page = QStringLiteral(
+        "# Keywords\n\n"
+        "What the classifications read and write, as `ktcatalogue keywords --format markdown` prints it. "
+        "Attributes hold one keyword or several, separated by `,`; letter case and blanks around them do not "
+        "matter. Words in the last column are read, but never written.\n");
+    for (const KTClassification &row : rows) {
+        page += QStringLiteral("\n## %1\n\n").arg(row.className());
+        const QString place = placeOf(row, tick);
+        page += (place.isEmpty() ? QString() : QStringLiteral("The attribute %1. ").arg(place))
+            + defaults(row, tick)
+            + QStringLiteral("\n\n| Keyword | Value | Name | Also read |\n|---|---|---|---|\n");
+        for (const KTKeywordInfo &keyword : row.keywords())
+            page += QStringLiteral("| %1 | %2 | %3 | %4 |\n")
+                        .arg(ticked({keyword.written}), hex(keyword.value), keyword.displayName,
+                             ticked(keyword.aliases));
+    }
+    return page;
+}
+
+struct FormatRow
+{
+    const char *name;
+    QString (*format)(const QVector<KTClassification> &rows);
+};
+
+constexpr FormatRow FORMATS[] = {
+    {"text",     &text    },
+    {"json",     &json    },
+    {"markdown", &markdown},
+};
+
+KTExitCode failClass(const QString &name)
+{
+    QStringList names;
+    for (const KTClassification &row : KTClassification::all())
+        names.append(row.className());
+    const QString nearest = KTNearestWord::find(name, names);
+    return KTCommandLine::failUsage(QStringLiteral("unknown class '%1', ").arg(name)
+                                    + (nearest.isNull() ? QStringLiteral("there are ") + names.join(SEPARATOR)
+                                                        : QStringLiteral("did you mean '%1'?").arg(nearest)));
+}
+
+} // namespace
+
+KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
+{
+    KTCommandLine commandLine(
+        QStringLiteral("keywords"),
+        QStringLiteral(
+            "Shows the keyword tables of the classifications: what is written, what it stands for, "
+            "what else is read, and what becomes of other texts."),
+        QStringLiteral("KTOrientation"), KTCommandLine::Files::None);
+    commandLine.parser().addPositionalArgument(
+        QStringLiteral("CLASS"), QStringLiteral("Only this classification, such as KTOrientation."),
+        QStringLiteral("keywords [CLASS]"));
+    const QCommandLineOption formatOption(
+        QStringLiteral("format"),
+        QStringLiteral("One of text (the default), json and markdown, a page of documentation."),
+        QStringLiteral("FORMAT"), QStringLiteral("text"));
+    const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("The same as --format json."));
+    commandLine.parser().addOptions({formatOption, jsonOption});
+    if (const auto code = commandLine.parse(arguments))
+        return *code;
+
+    const QStringList operands = commandLine.parser().positionalArguments().mid(1);
+    if (operands.size() > 1)
+        return KTCommandLine::failUsage(QStringLiteral("'keywords' takes one class"));
+    QVector<KTClassification> rows = KTClassification::all();
+    if (!operands.isEmpty()) {
+        const KTClassification *const row = KTClassification::ofClass(operands.constFirst());
+        if (!row)
+            return failClass(operands.constFirst());
+        rows = {*row};
+    }
+    const QString format = commandLine.parser().isSet(jsonOption) ? QStringLiteral("json")
+                                                                  : commandLine.parser().value(formatOption);
+    for (const FormatRow &row : FORMATS) {
+        if (format == QLatin1String(row.name))
+            return KTCommandLine::print(row.format(rows));
+    }
+    return KTCommandLine::failUsage(
+        QStringLiteral("unknown format '%1'; there are text, json and markdown").arg(format));
+}
