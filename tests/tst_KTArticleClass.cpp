@@ -2,9 +2,6 @@
 #include <KTShippingGroupId.h>
 
 #include "KTClassificationTest.h"
-#include "KTTestSupport.h"
-
-#include <QtTest>
 
 #include <limits>
 

@@ -5,7 +5,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
 
 class tst_KTArticleId : public QObject
 {

@@ -8,7 +8,6 @@
 
 #include <QRandomGenerator>
 #include <QRegion>
-#include <QtTest>
 
 using KTTest::toInt;
 using KTTest::Wide;

@@ -20,7 +20,6 @@
 #include <QSet>
 #include <QTranslator>
 #include <QVariant>
-#include <QtTest>
 
 namespace {
 

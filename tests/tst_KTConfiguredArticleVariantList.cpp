@@ -2,8 +2,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 namespace {
 
 KTConfiguredArticleVariantList offer(const QString &csv)

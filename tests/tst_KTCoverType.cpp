@@ -1,9 +1,6 @@
 #include <KTCoverType.h>
 
 #include "KTClassificationTest.h"
-#include "KTTestSupport.h"
-
-#include <QtTest>
 
 class tst_KTCoverType : public QObject
 {

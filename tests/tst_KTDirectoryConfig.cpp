@@ -2,8 +2,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 #include <sys/stat.h>
 
 class tst_KTDirectoryConfig : public QObject

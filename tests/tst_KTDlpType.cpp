@@ -4,8 +4,6 @@
 
 #include "KTClassificationTest.h"
 
-#include <QtTest>
-
 class tst_KTDlpType : public QObject
 {
     Q_OBJECT

@@ -7,9 +7,6 @@
 #include <QHash>
 #include <QRandomGenerator>
 #include <QVector>
-#include <QtTest>
-
-#include <limits>
 
 enum KTSampleEnum : qint32 { KTSampleNone = 0, KTSampleRed = 1, KTSampleGreen = 2, KTSampleBlue = 8 };
 enum KTWideSampleEnum : qint64 {};
@@ -61,28 +58,16 @@ class tst_KTEnumToStringTable : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void decodesList_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("value");
-        QTest::newRow("written keyword") << u"Red"_s << 1;
-        QTest::newRow("further keyword, other case") << u"CRIMSON"_s << 1;
-        QTest::newRow("blanks around") << u" \t\u00a0\u2003red\n"_s << 1;
-        QTest::newRow("blank inside") << u"dark green"_s << 64;
-        QTest::newRow("wrong blank inside") << u"dark  green"_s << 16;
-        QTest::newRow("union") << u"green, warm"_s << 11;
-        QTest::newRow("empty") << QString() << 16;
-        QTest::newRow("trailing comma") << u"red,"_s << 17;
-        QTest::newRow("two commas") << u"red,,green"_s << 19;
-        QTest::newRow("unknown entry") << u"red,violet"_s << 17;
-        QTest::newRow("umlaut in capitals") << u"red,\u00e4K"_s << 33;
-        QTest::newRow("Kelvin sign is a k") << u"\u00e4\u212a,green"_s << 34;
-        QTest::newRow("dotted capital I grows") << u"green,\u0130K"_s << 130;
-    }
     void decodesList()
     {
-        QFETCH(QString, text);
-        QTEST(static_cast<int>(sampleTable().decodeCSV(text)), "value");
+        const auto decoded = [](const QString &text) { return int(sampleTable().decodeCSV(text)); };
+        // Keywords and blanks; lists; letters whose small or large forms are of another length.
+        KTTest::check(decoded,
+                      {"Red -> 1", "CRIMSON -> 1", " \t\u00a0\u2003red\n -> 1", "dark green -> 64",
+                       "dark  green -> 16"});
+        KTTest::check(decoded,
+                      {"green, warm -> 11", " -> 16", "red, -> 17", "red,,green -> 19", "red,violet -> 17"});
+        KTTest::check(decoded, {"red,\u00e4K -> 33", "\u00e4\u212a,green -> 34", "green,\u0130K -> 130"});
     }
 
     void decodesRandomListsAsTheLiteralAlgorithm()
@@ -138,71 +123,41 @@ private Q_SLOTS:
 
     void warnsOfUndecodableText_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("warn");
-        QTest::addColumn<QString>("message");
-        const QString tail = u" (using default in 12KTSampleEnum )"_s;
-        QTest::newRow("unknown") << u"violet"_s << true << QString(u"undecodable: \"violet\""_s + tail);
-        QTest::newRow("blanks only") << u"  "_s << true << QString(u"undecodable: \"  \""_s + tail);
-        QTest::newRow("not asked to") << u"violet"_s << false << QString();
-        QTest::newRow("empty") << u""_s << true << QString();
-        QTest::newRow("null") << QString() << true << QString();
+        const KTTest::Rows<QString, bool, QString> row;
+        row("violet", true, "undecodable: \"violet\" (using default in 12KTSampleEnum )");
+        row("blanks", "  ", true, "undecodable: \"  \" (using default in 12KTSampleEnum )");
+        row("not asked to", "violet", false, "");
+        row("", true, "");
+        row("null", QString(), true, "");
     }
     void warnsOfUndecodableText()
     {
-        QFETCH(QString, text);
-        QFETCH(bool, warn);
-        QFETCH(QString, message);
+        const auto [text, warn, message] = KTTest::row<QString, bool, QString>();
         const KTMessageRecorder recorder;
-        QCOMPARE(static_cast<int>(sampleTable().decodeOneElement(text, warn)), 16);
-        QCOMPARE(recorder.messages().size(), message.isNull() ? 0 : 1);
-        if (message.isNull())
-            return;
-        const KTMessageRecorder::Message &recorded = recorder.messages().constFirst();
-        QCOMPARE(recorded.type, QtWarningMsg);
-        QCOMPARE(recorded.text, message);
-        QCOMPARE(recorded.category, QByteArray("default"));
-        QCOMPARE(recorded.file, QByteArray("libs/KTTemplateClasses/KTEnumToStringTable"));
-        QCOMPARE(recorded.function,
-                 QByteArray(
-                     "ENUM KTEnumToStringTable<KTSampleEnum>::decodeOneElement(const QString &, bool) const "
-                     "[ENUM = KTSampleEnum]"));
-        QVERIFY(recorded.line > 0);
-    }
-
-    void decodesKnownElementSilently()
-    {
-        const KTMessageRecorder recorder;
+        QCOMPARE(int(sampleTable().decodeOneElement(text, warn)), 16);
         QCOMPARE(sampleTable().decodeOneElement(u" Crimson "_s, true), KTSampleRed);
-        QVERIFY(recorder.messages().isEmpty());
+        QCOMPARE(recorder.messages().size(), message.isEmpty() ? 0 : 1);
+        for (const KTMessageRecorder::Message &recorded : recorder.messages()) {
+            QVERIFY(recorded.text == message && recorded.type == QtWarningMsg && recorded.line > 0);
+            QCOMPARE(
+                QByteArray(recorded.category + ' ' + recorded.file + ": " + recorded.function),
+                QByteArray(
+                    "default libs/KTTemplateClasses/KTEnumToStringTable: "
+                    "ENUM KTEnumToStringTable<KTSampleEnum>::decodeOneElement(const QString &, bool) const "
+                    "[ENUM = KTSampleEnum]"));
+        }
     }
 
-    void encodes_data()
-    {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("whole");
-        QTest::addColumn<QString>("bits");
-        QTest::newRow("bit") << 1 << "Red"
-                             << "Red";
-        QTest::newRow("union with a keyword") << 9 << "warm"
-                                              << "Red, blue";
-        QTest::newRow("union without one") << 3 << "any"
-                                           << "Red, GREEN";
-        QTest::newRow("bit without keyword") << 5 << "any"
-                                             << "Red, any";
-        QTest::newRow("null") << 0 << "any"
-                              << "any";
-        QTest::newRow("sign bit") << std::numeric_limits<int>::min() << "any"
-                                  << "any";
-        QTest::newRow("highest bit") << (1 << 30) << "any"
-                                     << "any";
-    }
     void encodes()
     {
-        QFETCH(int, value);
-        const KTEnumToStringTable<KTSampleEnum> table = sampleTable();
-        QTEST(table.encode(static_cast<KTSampleEnum>(value)), "whole");
-        QTEST(table.encodeCSV(static_cast<KTSampleEnum>(value)), "bits");
+        // As a whole, and bit by bit.
+        const auto encoded = [](int bits) {
+            const auto value = static_cast<KTSampleEnum>(bits);
+            return KTTest::text(sampleTable().encode(value), sampleTable().encodeCSV(value));
+        };
+        KTTest::check<int>(encoded,
+                           {"1 -> Red|Red", "9 -> warm|Red, blue", "3 -> any|Red, GREEN", "5 -> any|Red, any",
+                            "0 -> any|any", "-2147483648 -> any|any", "1073741824 -> any|any"});
     }
 
     void splitsBits()

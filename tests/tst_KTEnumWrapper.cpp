@@ -3,8 +3,6 @@
 #include "KTTestNeighbour.h"
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 #include <atomic>
 #include <stdexcept>
 

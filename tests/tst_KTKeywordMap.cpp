@@ -4,7 +4,6 @@
 
 #include <QHash>
 #include <QRandomGenerator>
-#include <QtTest>
 
 #include <algorithm>
 

@@ -2,8 +2,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 using KTAmounts = QMap<KTPriceClass, int>;
 
 class tst_KTModelAddOnStatistic : public QObject

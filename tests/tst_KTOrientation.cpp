@@ -2,10 +2,8 @@
 #include <KTOrientation.h>
 
 #include "KTClassificationTest.h"
-#include "KTTestSupport.h"
 
 #include <QSizeF>
-#include <QtTest>
 
 #include <climits>
 

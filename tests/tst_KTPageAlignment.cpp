@@ -3,8 +3,6 @@
 
 #include "KTClassificationTest.h"
 
-#include <QtTest>
-
 class tst_KTPageAlignment : public QObject
 {
     Q_OBJECT

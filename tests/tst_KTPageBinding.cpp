@@ -2,8 +2,6 @@
 
 #include "KTClassificationTest.h"
 
-#include <QtTest>
-
 class tst_KTPageBinding : public QObject
 {
     Q_OBJECT

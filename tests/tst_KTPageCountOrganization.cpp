@@ -4,7 +4,6 @@
 #include "KTTestSupport.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
 
 using KTTest::toInt;
 using KTTest::Wide;

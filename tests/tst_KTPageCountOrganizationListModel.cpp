@@ -7,7 +7,6 @@
 #include <QAbstractItemModelTester>
 #include <QSortFilterProxyModel>
 #include <QTranslator>
-#include <QtTest>
 
 class UpperCaseTranslator : public QTranslator
 {

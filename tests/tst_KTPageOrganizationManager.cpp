@@ -3,8 +3,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 #include <atomic>
 #include <functional>
 #include <memory>

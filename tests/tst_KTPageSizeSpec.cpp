@@ -5,8 +5,6 @@
 #include "KTBoundaries.h"
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 using KTTest::toInt;
 using KTTest::Wide;
 

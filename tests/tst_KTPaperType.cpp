@@ -3,9 +3,6 @@
 #include <KTPaperType.h>
 
 #include "KTClassificationTest.h"
-#include "KTTestSupport.h"
-
-#include <QtTest>
 
 class tst_KTPaperType : public QObject
 {

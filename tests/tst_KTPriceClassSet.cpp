@@ -3,8 +3,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 class tst_KTPriceClassSet : public QObject
 {
     Q_OBJECT

@@ -4,8 +4,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 #include <atomic>
 #include <functional>
 #include <limits>

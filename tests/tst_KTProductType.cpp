@@ -5,7 +5,6 @@
 #include "KTTestSupport.h"
 
 #include <QRandomGenerator>
-#include <QtTest>
 
 namespace {
 

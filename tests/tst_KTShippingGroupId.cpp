@@ -4,7 +4,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
 
 class tst_KTShippingGroupId : public QObject
 {

@@ -3,8 +3,6 @@
 #include "KTTestNeighbour.h"
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 #include <stdexcept>
 
 /** Fails to construct the first time. */

@@ -5,7 +5,6 @@
 #include "KTMessageRecorder.h"
 
 #include <QFont>
-#include <QtTest>
 
 #include <climits>
 #include <cmath>

@@ -10,7 +10,6 @@
 
 #include <QFont>
 #include <QFontMetrics>
-#include <QtTest>
 
 using KTTest::toInt;
 using KTTest::Wide;

@@ -4,8 +4,6 @@
 
 #include "KTTestSupport.h"
 
-#include <QtTest>
-
 class tst_KTXML : public QObject
 {
     Q_OBJECT
