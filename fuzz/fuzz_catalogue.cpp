@@ -15,7 +15,7 @@ void KTFuzz::catalogue(const QByteArray &input)
     KTCatalogueReader reader(&file);
     KTCatalogueArticle article;
     while (reader.readNext(&article)) {
-        KT_REQUIRE(reader.errorText().isEmpty() && !article.tags.isEmpty());
+        KT_REQUIRE(reader.errorText().isEmpty() && !article.elements().isEmpty());
         const KTArticleModel model(article.element());
         for (const QList<int> &pageCounts : {
                  QList<int>(), QList<int> {INT_MIN, 0, 1, INT_MAX}
