@@ -11,15 +11,26 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show order preview keywords --help --version -h -v"
+        words="show check order preview keywords --help --version -h -v"
     else
         case $command:$previous in
+        check:--format) words="text json sarif" ;;
+        check:--fail-on) words="error warning hint never" ;;
+        check:--color) words="auto always never" ;;
+        check:--error | check:--explain | check:--ignore)
+            words=$("$program" check --list-rules 2>/dev/null | sed 's/^ *//; s/ .*//')
+            ;;
+        check:--files-from | check:--max-findings) return ;;
         keywords:--format) words="text json markdown" ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)
             case $command:$current in
             show:-*) words="--article --pages --json" ;;
+            check:-*)
+                words="--files-from --format --fail-on --ignore --error --pedantic --max-findings --quiet"
+                words+=" --list-rules --explain --color"
+                ;;
             order:-*) words="--article --pages --choose --json" ;;
             preview:-*) words="--article --pages --output -o" ;;
             keywords:-*) words="--format --json" ;;
