@@ -58,7 +58,7 @@ constexpr Sample SAMPLES[] = {
      "<catalogue><article id='1' productname=''/></catalogue>"                                                                                                                                                                                            },
     {"unknown-keyword",     "cover_type=' hardcovr, Booklet'",                                             "2:37",  "did you mean 'HARDCOVER'?",
      "cover_type=' hardcover, Booklet'"                                                                                                                                                                                                                   },
-    {"unknown-keyword",     "><page alignment='top'/>",                                                    "2:44",  "the default, 'left'",
+    {"unknown-keyword",     "><page alignment='tip'/>",                                                    "2:44",  "the default, 'left'",
      "><page type='fullcover' alignment='LEFT,right'/>"                                                                                                                                                                                                   },
     {"unknown-keyword",     "spot_colors='gold,,silver'",                                                  "2:37",  "an empty entry",                 "spot_colors=''"                                                                                    },
     {"unknown-price-class", "price_class='ABL9'",                                                          "2:37",  "'ABL' is no known family",       "price_class='FOP999'"                                                                              },
