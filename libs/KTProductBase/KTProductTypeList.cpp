@@ -72,10 +72,9 @@ void KTProductTypeList::addWithoutDoubles(const KTProductType &type)
 
 void KTProductTypeList::addWithoutDoubles(const KTProductTypeList &other)
 {
-    // A copy, because the other list may be this one, which must not change under the loop.
-    const KTProductTypeList types = other;
+    // When the other list is this one, all of it is present, and nothing changes under the loop.
     QSet<KTProductType> present(begin(), end());
-    for (const KTProductType &type : types) {
+    for (const KTProductType &type : other) {
         if (present.contains(type))
             continue;
         addWithoutDoubles(type);

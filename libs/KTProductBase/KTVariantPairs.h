@@ -21,7 +21,7 @@ constexpr KTStringLiteral PAIR_TEMPLATE = "%1:%2";
  */
 inline QString filled(const QString &pairTemplate, const QString &key, const QString &value)
 {
-    constexpr qint64 MOST_REPEATED = 1024 * 1024;
+    constexpr qint64 MOST_REPEATED = 1000000;
     const QString withKey = pairTemplate.arg(key);
     if (qint64(withKey.count(QLatin1Char('%'))) * value.size() > MOST_REPEATED)
         return pairTemplate.arg(key, value);
