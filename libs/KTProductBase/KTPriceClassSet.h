@@ -28,7 +28,8 @@ public:
     KTPriceClassSet &operator=(KTPriceClassSet &&other) noexcept = default;
     virtual ~KTPriceClassSet();
 
-    /** @name Finishings with a spot colour @{ */
+    /** @name Finishings with a spot colour */
+    /** @{ */
     static KTPriceClassSet spotColorGloss();
     static KTPriceClassSet spotColorGoldSilver();
     /** Empty: the catalogue has the group, but bills nothing for it. */
@@ -39,12 +40,14 @@ public:
     static KTPriceClassSet spotColorPriceClasses(const KTSpotColor &color);
     /** @} */
 
-    /** @name Gift boxes @{ */
+    /** @name Gift boxes */
+    /** @{ */
     static KTPriceClassSet bookGiftBoxes();
     static KTPriceClassSet calendarGiftBoxes();
     /** @} */
 
-    /** @name Picture frames @{ */
+    /** @name Picture frames */
+    /** @{ */
     static KTPriceClass framePassepartout();
     static KTPriceClass frameGlass();
     /** The lamination that takes the place of a glass. */
@@ -53,7 +56,8 @@ public:
     static KTPriceClassSet frameGlasses();
     /** @} */
 
-    /** @name What hangs or holds a print; the callers' code spells the wooden strips so @{ */
+    /** @name What hangs or holds a print; the callers' code spells the wooden strips so */
+    /** @{ */
     static KTPriceClassSet calendarStrips();
     static KTPriceClassSet posterWoddenStrips();
     static KTPriceClassSet calendarStandPriceClasses();
@@ -62,7 +66,8 @@ public:
     static KTPriceClassSet wallholderPriceClasses();
     /** @} */
 
-    /** @name Further add-ons; the callers' code spells the envelopes so @{ */
+    /** @name Further add-ons; the callers' code spells the envelopes so */
+    /** @{ */
     static KTPriceClassSet maps();
     static KTPriceClassSet envelops();
     static KTPriceClassSet mattCoverPriceClasses();
