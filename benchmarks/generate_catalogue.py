@@ -15,7 +15,7 @@ def option(pick, number):
     key, name = (("alcolor", "Einbandfarbe"), ("flyleafcolor", "Vorsatzpapier"), ("coverphoto", "Titelfoto"))[number // 4]
     value = COLOURS[number]
     return (f'      <form key="{key}" key_name="{name}" value="{value}" value_name="Ausführung {value.capitalize()}" '
-            f'editor_name="cover" color="#{pick.randrange(1 << 24):06x}"'
+            f'editor_name="cover" preview="previews/{key}_{value}_{pick.randrange(1000):03}.png" color="#{pick.randrange(1 << 24):06x}"'
             + (' preselected="true"' if number % 4 == 0 else "")
             + (' not_accountable="true"' if pick.random() < 0.3 else "") + "/>")
 

@@ -23,6 +23,8 @@ namespace {
 const QString PROBE_ELEMENT = QStringLiteral("probe");
 const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
 constexpr int ARTICLE_INDEX = 0;
+constexpr KTAttributeRole PAGE_COUNT_ROLES[]
+    = {KTAttributeRole::Pages, KTAttributeRole::MaxPages, KTAttributeRole::PageStep, KTAttributeRole::Pieces};
 constexpr QChar ORDER_TXT_SEPARATOR = u';';
 // Nine digits always fit into an int.
 constexpr int SAFE_DIGITS = 9;
@@ -462,7 +464,7 @@ void KTArticleChecker::checkArticle()
                    .arg(KTProductType::fromMcf(article).orderTxtName()));
     }
     checkPriceClass();
-    checkPageCounts();
+    checkPageCountAttributes();
 }
 
 void KTArticleChecker::checkPriceClass()
@@ -480,13 +482,10 @@ void KTArticleChecker::checkPriceClass()
     }
 }
 
-void KTArticleChecker::checkPageCounts()
+void KTArticleChecker::checkPageCountAttributes()
 {
-    constexpr Role ROLES[] = {Role::Pages, Role::MaxPages, Role::PageStep, Role::Pieces};
-    if (std::none_of(std::begin(ROLES), std::end(ROLES), [this](Role role) { return found(role); }))
-        return;
     if (KTArticleId(myArticleId).isAdventCalendarWithDoorBackPrint()) {
-        for (const Role role : ROLES) {
+        for (const Role role : PAGE_COUNT_ROLES) {
             if (found(role)) {
                 report(
                     KTRule::IgnoredAttribute,
@@ -504,44 +503,42 @@ void KTArticleChecker::checkPageCounts()
                    .arg(pageCountsText()),
                found(Role::Pieces));
     }
+    if (std::any_of(std::begin(PAGE_COUNT_ROLES), std::end(PAGE_COUNT_ROLES),
+                    [this](Role role) { return found(role); }))
+        checkPageCounts();
+}
+
+void KTArticleChecker::checkPageCounts()
+{
     constexpr int HIGHEST = std::numeric_limits<int>::max();
     const int min = myPageCounts.minPages();
     const int max = myPageCounts.maxPages();
     const int step = myPageCounts.pageIncrement();
-    const QString counts = pageCountsText();
-    const Attribute *const upper = firstFound({Role::MaxPages, Role::Pages});
+    const QString counts
+        = QStringLiteral("the page counts are %1%2")
+              .arg(pageCountsText(),
+                   myPageCounts.isValid() ? QString() : QStringLiteral(", which is not valid"));
+    const QString wish
+        = QStringLiteral("; a wish for %1 pages becomes %2").arg(max).arg(myPageCounts.constrain(max));
     const Attribute *const stepOrUpper = firstFound({Role::PageStep, Role::MaxPages, Role::Pages});
-    const QString wish = QStringLiteral("a wish for %1 pages becomes %2");
     if (min < 1 || max < 1) {
-        report(KTRule::PageCountRange,
-               QStringLiteral("the page counts are %1, and those below 1 are not valid").arg(counts),
+        report(KTRule::PageCountRange, counts + QStringLiteral("; they begin at 1"),
                firstFound({Role::Pages, Role::Pieces, Role::MaxPages}));
     } else if (found(Role::Pieces) && (min == HIGHEST || max == HIGHEST)) {
         report(KTRule::PageCountRange,
-               QStringLiteral("'pages' times 'pieces' is too large; the application cuts it off: %1")
-                   .arg(counts),
+               QStringLiteral("'pages' times 'pieces' is too large, so the application cuts it off; ")
+                   + counts,
                found(Role::Pieces));
     } else if (min > max) {
-        report(KTRule::PagesInverted,
-               QStringLiteral("the page counts are %1, which is not valid; ").arg(counts)
-                   + wish.arg(max).arg(myPageCounts.constrain(max)),
-               upper);
+        report(KTRule::PagesInverted, counts + wish, firstFound({Role::MaxPages, Role::Pages}));
     } else if (step < 0) {
-        report(KTRule::NegativePageStep,
-               QStringLiteral("the page counts are %1, which is not valid; ").arg(counts)
-                   + wish.arg(max).arg(myPageCounts.constrain(max)),
-               found(Role::PageStep));
+        report(KTRule::NegativePageStep, counts + wish, found(Role::PageStep));
     } else if (step == 0 && min < max) {
-        report(KTRule::NoPageStep,
-               QStringLiteral("the page counts are %1, so that they never step; ").arg(counts)
-                   + wish.arg(max).arg(myPageCounts.constrain(max)),
-               stepOrUpper);
+        report(KTRule::NoPageStep, counts + wish, stepOrUpper);
     } else if (min < max && !myPageCounts.isConsistent()) {
+        const int last = myPageCounts.pagesWithNExtraPackages(myPageCounts.numberOfPackages() - 1);
         report(KTRule::UnevenPageStep,
-               QStringLiteral("the page counts are %1, but the last count offered is %2; ")
-                       .arg(counts)
-                       .arg(myPageCounts.pagesWithNExtraPackages(myPageCounts.numberOfPackages() - 1))
-                   + wish.arg(max).arg(myPageCounts.constrain(max))
+               counts + QStringLiteral(", but the last one offered is %1").arg(last) + wish
                    + QStringLiteral(", which exceeds the maximum"),
                stepOrUpper);
     }

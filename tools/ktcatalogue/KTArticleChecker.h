@@ -58,6 +58,7 @@ private:
     void beginArticle();
     void checkArticle();
     void checkPriceClass();
+    void checkPageCountAttributes();
     void checkPageCounts();
     void checkSpine();
     void checkOption();

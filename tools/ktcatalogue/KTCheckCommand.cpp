@@ -14,6 +14,18 @@
 
 namespace {
 
+const QString FILES_FROM = QStringLiteral("files-from");
+const QString FORMAT = QStringLiteral("format");
+const QString FAIL_ON = QStringLiteral("fail-on");
+const QString IGNORE = QStringLiteral("ignore");
+const QString ERROR = QStringLiteral("error");
+const QString PEDANTIC = QStringLiteral("pedantic");
+const QString MAX_FINDINGS = QStringLiteral("max-findings");
+const QString QUIET = QStringLiteral("quiet");
+const QString LIST_RULES = QStringLiteral("list-rules");
+const QString EXPLAIN = QStringLiteral("explain");
+const QString COLOR = QStringLiteral("color");
+
 const QString NEVER = QStringLiteral("never");
 const QString AUTO = QStringLiteral("auto");
 const QString ALWAYS = QStringLiteral("always");
@@ -30,6 +42,41 @@ struct Options
     std::optional<KTSeverity> failOn;
     int maximum = std::numeric_limits<int>::max();
 };
+
+struct OptionRow
+{
+    const QString &name;
+    /** Empty for an option without a value. */
+    const char *valueName;
+    const char *defaultValue;
+    const char *description;
+};
+
+const OptionRow OPTIONS[] = {
+    {FILES_FROM,   "FILE",     "",        "Further files, named in FILE line by line; - for standard input."           },
+    {FORMAT,       "FORMAT",   "text",    "text (the default), json or sarif."                                         },
+    {FAIL_ON,      "SEVERITY", "warning",
+     "The least severity for exit code 1: error, warning (the default), hint or never."                                },
+    {IGNORE,       "RULE",     "",        "Leaves out a rule."                                                         },
+    {ERROR,        "RULE",     "",        "Takes a rule's findings as errors."                                         },
+    {PEDANTIC,     "",         "",        "Takes warnings as errors and hints as warnings."                            },
+    {MAX_FINDINGS, "N",        "",        "Shows the first N findings; all of them are counted."                       },
+    {QUIET,        "",         "",        "Neither summary nor progress on standard error."                            },
+    {LIST_RULES,   "",         "",        "Lists the rules."                                                           },
+    {EXPLAIN,      "RULE",     "",        "Explains a rule."                                                           },
+    {COLOR,        "WHEN",     "auto",    "auto (the default: on a terminal, unless NO_COLOR is set), always or never."},
+};
+
+void addOptions(QCommandLineParser *parser)
+{
+    for (const OptionRow &row : OPTIONS) {
+        QCommandLineOption option(row.name, QString::fromLatin1(row.description),
+                                  QString::fromLatin1(row.valueName));
+        if (*row.defaultValue)
+            option.setDefaultValue(QString::fromLatin1(row.defaultValue));
+        parser->addOption(option);
+    }
+}
 
 KTExitCode failChoice(const QString &option, const QString &value, const QStringList &choices)
 {
@@ -74,6 +121,52 @@ bool isTerminalColored()
 {
     return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
         && qgetenv("TERM") != QByteArrayLiteral("dumb");
+}
+
+/** The severity from which on findings count; an exit code for a word that is none. */
+std::optional<KTExitCode> readFailOn(const QString &word, std::optional<KTSeverity> *failOn)
+{
+    QStringList words;
+    for (const KTSeverity severity : SEVERITIES) {
+        words.append(KTCheckRules::name(severity));
+        if (word == words.constLast())
+            *failOn = severity;
+    }
+    words.append(NEVER);
+    return words.contains(word) ? std::nullopt : std::make_optional(failChoice(FAIL_ON, word, words));
+}
+
+/** What is to be done; an exit code for wrong usage, which is reported. */
+std::optional<KTExitCode> readOptions(const QCommandLineParser &parser, Options *options)
+{
+    options->format = parser.value(FORMAT);
+    if (!KTFindingWriter::formats().contains(options->format))
+        return failChoice(FORMAT, options->format, KTFindingWriter::formats());
+    const QString color = parser.value(COLOR);
+    const QStringList colors {AUTO, ALWAYS, NEVER};
+    if (!colors.contains(color))
+        return failChoice(COLOR, color, colors);
+    options->isColored = color == ALWAYS || (color == AUTO && isTerminalColored());
+    if (const auto code = readFailOn(parser.value(FAIL_ON), &options->failOn))
+        return code;
+    for (const QString &name : parser.values(IGNORE) + parser.values(ERROR)) {
+        if (!findRule(name))
+            return KTExitUsage;
+    }
+    for (const QString &name : parser.values(IGNORE))
+        options->severities.ignore(KTCheckRules::find(name)->rule);
+    for (const QString &name : parser.values(ERROR))
+        options->severities.raiseToError(KTCheckRules::find(name)->rule);
+    options->severities.setPedantic(parser.isSet(PEDANTIC));
+    options->isQuiet = parser.isSet(QUIET);
+    bool ok = true;
+    if (parser.isSet(MAX_FINDINGS))
+        options->maximum = parser.value(MAX_FINDINGS).toInt(&ok);
+    if (!ok || options->maximum < 0) {
+        return KTCommandLine::failUsage(
+            QStringLiteral("'%1' is no number for --%2").arg(parser.value(MAX_FINDINGS), MAX_FINDINGS));
+    }
+    return std::nullopt;
 }
 
 /** The names in the file, one per line; an exit code when it cannot be read. */
@@ -167,92 +260,27 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
                        "application makes of it. Exits with 0 when nothing was found, 1 for findings, 2 for "
                        "files that are not readable."),
         QStringLiteral("examples/catalogue.xml --fail-on=error"), KTCommandLine::Files::Any);
-    const QCommandLineOption filesFromOption(QStringLiteral("files-from"),
-                                             QStringLiteral("Further files, named in FILE line by line."),
-                                             QStringLiteral("FILE"));
-    const QCommandLineOption formatOption(QStringLiteral("format"),
-                                          QStringLiteral("text (the default), json or sarif."),
-                                          QStringLiteral("FORMAT"), QStringLiteral("text"));
-    const QCommandLineOption failOnOption(
-        QStringLiteral("fail-on"),
-        QStringLiteral("The least severity for exit code 1: error, warning (the default), hint or never."),
-        QStringLiteral("SEVERITY"), QStringLiteral("warning"));
-    const QCommandLineOption ignoreOption(QStringLiteral("ignore"), QStringLiteral("Leaves out a rule."),
-                                          QStringLiteral("RULE"));
-    const QCommandLineOption errorOption(QStringLiteral("error"),
-                                         QStringLiteral("Takes a rule's findings as errors."),
-                                         QStringLiteral("RULE"));
-    const QCommandLineOption pedanticOption(
-        QStringLiteral("pedantic"), QStringLiteral("Takes warnings as errors and hints as warnings."));
-    const QCommandLineOption maximumOption(
-        QStringLiteral("max-findings"),
-        QStringLiteral("Shows the first N findings; all of them are counted."), QStringLiteral("N"));
-    const QCommandLineOption quietOption(QStringLiteral("quiet"),
-                                         QStringLiteral("Neither summary nor progress on standard error."));
-    const QCommandLineOption listOption(QStringLiteral("list-rules"), QStringLiteral("Lists the rules."));
-    const QCommandLineOption explainOption(QStringLiteral("explain"), QStringLiteral("Explains a rule."),
-                                           QStringLiteral("RULE"));
-    const QCommandLineOption colorOption(
-        QStringLiteral("color"),
-        QStringLiteral("auto (the default: on a terminal, unless NO_COLOR is set), always or never."),
-        QStringLiteral("WHEN"), AUTO);
-    commandLine.parser().addOptions({filesFromOption, formatOption, failOnOption, ignoreOption, errorOption,
-                                     pedanticOption, maximumOption, quietOption, listOption, explainOption,
-                                     colorOption});
+    addOptions(&commandLine.parser());
     if (const auto code = commandLine.parse(arguments))
         return *code;
-    const QCommandLineParser &parser = commandLine.parser();
 
-    if (parser.isSet(listOption))
+    const QCommandLineParser &parser = commandLine.parser();
+    if (parser.isSet(LIST_RULES))
         return KTCommandLine::print(ruleList());
-    if (parser.isSet(explainOption)) {
-        const KTRuleRow *const row = findRule(parser.value(explainOption));
+    if (parser.isSet(EXPLAIN)) {
+        const KTRuleRow *const row = findRule(parser.value(EXPLAIN));
         return row ? KTCommandLine::print(explanation(*row)) : KTExitUsage;
     }
 
     Options options;
-    options.format = parser.value(formatOption);
-    if (!KTFindingWriter::formats().contains(options.format))
-        return failChoice(QStringLiteral("format"), options.format, KTFindingWriter::formats());
-    const QString color = parser.value(colorOption);
-    if (!QStringList {AUTO, ALWAYS, NEVER}.contains(color))
-        return failChoice(QStringLiteral("color"), color, {AUTO, ALWAYS, NEVER});
-    options.isColored = color == ALWAYS || (color == AUTO && isTerminalColored());
-    const QString failOn = parser.value(failOnOption);
-    QStringList severities;
-    for (const KTSeverity severity : SEVERITIES) {
-        severities.append(KTCheckRules::name(severity));
-        if (failOn == severities.constLast())
-            options.failOn = severity;
-    }
-    if (!options.failOn && failOn != NEVER)
-        return failChoice(QStringLiteral("fail-on"), failOn, severities + QStringList(NEVER));
-    for (const QString &name : parser.values(ignoreOption)) {
-        const KTRuleRow *const row = findRule(name);
-        if (!row)
-            return KTExitUsage;
-        options.severities.ignore(row->rule);
-    }
-    for (const QString &name : parser.values(errorOption)) {
-        const KTRuleRow *const row = findRule(name);
-        if (!row)
-            return KTExitUsage;
-        options.severities.raiseToError(row->rule);
-    }
-    options.severities.setPedantic(parser.isSet(pedanticOption));
-    options.isQuiet = parser.isSet(quietOption);
-    const std::optional<QList<int>> maximum = commandLine.numbers(maximumOption);
-    if (!maximum)
-        return KTExitUsage;
-    if (!maximum->isEmpty())
-        options.maximum = std::max(0, maximum->constLast());
-
+    if (const auto code = readOptions(parser, &options))
+        return *code;
     QStringList names = commandLine.fileNames();
-    for (const QString &listName : parser.values(filesFromOption)) {
+    for (const QString &listName : parser.values(FILES_FROM)) {
         if (const auto code = readNames(listName, &names))
             return *code;
     }
-    if (names.isEmpty() && !parser.isSet(filesFromOption))
+    if (names.isEmpty() && !parser.isSet(FILES_FROM))
         return KTCommandLine::failUsage(QStringLiteral("'check' needs a file"));
 
     const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
