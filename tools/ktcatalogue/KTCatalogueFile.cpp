@@ -37,8 +37,6 @@ std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
     const KTFilePosition position = myReader->errorPosition();
     return KTCommandLine::fail(KTExitUnreadable,
                                QStringLiteral("%1:%2:%3: error: %4")
-                                   .arg(myName)
-                                   .arg(position.line)
-                                   .arg(position.column)
-                                   .arg(myReader->errorText()));
+                                   .arg(myName, QString::number(position.line),
+                                        QString::number(position.column), myReader->errorText()));
 }

@@ -93,13 +93,13 @@ KTExitCode KTCommandLine::failUsage(const QString &message)
 KTExitCode KTCommandLine::failNoArticle(int articleId) const
 {
     return fail(KTExitUnanswerable,
-                QStringLiteral("%1: there is no article %2").arg(fileName()).arg(articleId));
+                QStringLiteral("%1: there is no article %2").arg(fileName(), QString::number(articleId)));
 }
 
 KTExitCode KTCommandLine::failArticle(int articleId, const QString &objection) const
 {
     return fail(KTExitUnanswerable,
-                QStringLiteral("%1: article %2 %3").arg(fileName()).arg(articleId).arg(objection));
+                QStringLiteral("%1: article %2 %3").arg(fileName(), QString::number(articleId), objection));
 }
 
 KTExitCode KTCommandLine::print(const QString &text)
