@@ -12,7 +12,7 @@
 /** The fuzz targets, each asked for any bytes at all, and what they share. */
 namespace KTFuzz {
 
-/** Elements from lines ("name=value") through every reader of elements and every query. */
+/** Elements, built as the bytes say, through every reader of elements and every query. */
 void elements(const QByteArray &input);
 /** Each of a few lines as a text through every reader of texts, the writers, and the readers again. */
 void texts(const QByteArray &input);

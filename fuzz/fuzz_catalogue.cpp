@@ -2,6 +2,7 @@
 
 #include <KTArticleModel.h>
 #include <KTArticleReport.h>
+#include <KTCatalogueChecker.h>
 #include <KTCatalogueReader.h>
 
 #include <QBuffer>
@@ -29,6 +30,17 @@ void KTFuzz::catalogue(const QByteArray &input)
         for (const int wish : KTTest::INTS)
             use(model.validPagesAround(wish));
     }
-    KT_REQUIRE(reader.errorText().isEmpty() || reader.errorPosition().line >= 1);
     KT_REQUIRE(!reader.readNext(&article));
+
+    // The checker reads the same file to the same end, and says what stopped it.
+    KT_REQUIRE(file.reset());
+    const int lastLine = input.count('\n') + input.count('\r') + 1;
+    int findings = 0;
+    KTCatalogueChecker checker([&](const KTFinding &finding) {
+        ++findings;
+        KT_REQUIRE(finding.position.line >= 1 && finding.position.line <= lastLine);
+        KT_REQUIRE(finding.position.column >= 1 && !finding.message.isEmpty());
+    });
+    KT_REQUIRE(checker.check(QStringLiteral("fuzz.xml"), &file) || findings > 0);
+    KT_REQUIRE(reader.errorText().isEmpty() || findings > 0);
 }

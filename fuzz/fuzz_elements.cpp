@@ -20,29 +20,58 @@ using namespace KTFuzz;
 
 namespace {
 
-// More would only slow each run down.
 constexpr int MAXIMUM_ELEMENTS = 12;
 
-/**
- * The elements of the document in their order, from lines: "<tag" begins a child, ">" ends it, and
- * "name=value" sets an attribute.
- */
-QVector<QDomElement> elementsOf(const QByteArray &input, QDomDocument *document)
+constexpr const char *TAGS = "article composition spine barcodes barcode forms form page";
+constexpr const char *NAMES
+    = "pages max_pages page_step pieces packages_per_block base_width block_width additional_width units "
+      "position_x position_y width height pageNr image key value key_name value_name editor_name preview "
+      "color preselected not_accountable id art_id article_id shipping_group productname bleed_top "
+      "bleed_left slipcase_height";
+constexpr const char *VALUES
+    = "-2147483648 -2147483647 -1 0 1 2 7 2000 1000000000 2147483640 2147483646 2147483647 4294967295 nan "
+      "inf -inf 1e300 -1e300 1e-300 -1.5 214748364.7 1e999 mm inch pt parsec alcolor coverphoto boxstyle "
+      "giftboxcolor;boxstyle black;wood gold true #80ff8000 ALB9_30 CAL29 dummy-barcode.png ../x.png %1%2 ";
+
+QStringList words(const char *text)
 {
+    return QString::fromLatin1(text).split(u' ');
+}
+
+/** Takes the next byte, 0 at the end. */
+uchar take(QByteArray *input)
+{
+    const uchar byte = input->isEmpty() ? 0 : static_cast<uchar>(input->front());
+    input->remove(0, 1);
+    return byte;
+}
+
+/**
+ * The elements of the document in their order. A byte begins a child, ends it or names an attribute, whose
+ * value the next one chooses from the table; otherwise it is the text up to the end of the line.
+ */
+QVector<QDomElement> elementsOf(QByteArray input, QDomDocument *document)
+{
+    static const QStringList tags = words(TAGS);
+    static const QStringList names = words(NAMES);
+    static const QStringList values = words(VALUES);
     QDomElement element = document->createElement(QStringLiteral("catalogue"));
     document->appendChild(element);
     QVector<QDomElement> elements {element};
-    for (const QByteArray &line : input.split('\n')) {
-        const int separator = line.indexOf('=');
-        if (line.startsWith('<') && elements.size() < MAXIMUM_ELEMENTS) {
-            element
-                = element.appendChild(document->createElement(QString::fromUtf8(line.mid(1)))).toElement();
+    while (!input.isEmpty()) {
+        const int choice = take(&input);
+        if (choice < tags.size() && elements.size() < MAXIMUM_ELEMENTS) {
+            element = element.appendChild(document->createElement(tags.at(choice))).toElement();
             elements.append(element);
-        } else if (line.startsWith('>') && element != elements.constFirst()) {
+        } else if (choice == tags.size() && element != elements.constFirst()) {
             element = element.parentNode().toElement();
-        } else if (separator > 0) {
-            element.setAttribute(QString::fromUtf8(line.left(separator)),
-                                 QString::fromUtf8(line.mid(separator + 1)));
+        } else {
+            const int value = take(&input);
+            const QByteArray line = input.left(qMax(0, input.indexOf('\n')));
+            if (value >= values.size())
+                input.remove(0, line.size());
+            element.setAttribute(names.at(choice % names.size()),
+                                 values.value(value, QString::fromUtf8(line)));
         }
     }
     return elements;
@@ -184,8 +213,7 @@ void read(const QDomElement &element, const QDomElement &other)
     askPageCounts(counts, KTPageCountOrganization::createFromProductsXMLForPictureBox(other));
     askPageCounts(KTPageCountOrganization::createFromProductsXMLForPictureBox(element), counts);
     readSpine(element, other);
-    for (const int unit : {0, 1, 2, 4, 8, 16})
-        readBarcodes(element, other, static_cast<KTDistanceUnitEnum>(unit));
+    readBarcodes(element, other, KTXMLParser::attribute(element, QStringLiteral("units"), QString()));
     readSizes(element);
 }
 

@@ -43,7 +43,7 @@ public:
 
     /**
      * Reads pairs separated by ",", each as the keyword string's. Gives back what toMCF() wrote, except pairs
-     * with a "," or a key/value separator inside a key or value.
+     * with a "," or a key/value separator inside a key or value, or a "%" and a digit inside a key.
      */
     [[nodiscard]] static KTArticleVariants createFromMCF(const QString &text);
     /** The pair that stands for a black gift box. */
