@@ -23,6 +23,7 @@ private Q_SLOTS:
         QVERIFY(range.intersects(KTIntRange(5, 9)) && range.intersects(KTIntRange(-1, 1)));
         QVERIFY(range.intersects(KTIntRange(2, 3)) && range.intersects(KTIntRange(0, 9)));
         QVERIFY(!range.intersects(KTIntRange(6, 9)) && !range.intersects(KTIntRange(-1, 0)));
+        QVERIFY(KTIntRange(9, 5).intersects(KTIntRange(0, 6)));
     }
 
     void expands()
@@ -33,6 +34,9 @@ private Q_SLOTS:
         for (const int value : {9, 8, -2})
             range.expandTo(value);
         QCOMPARE(range, KTIntRange(-2, 9));
+        KTIntRange fromZero(0, 5);
+        fromZero.expandTo(9);
+        QCOMPARE(fromZero, KTIntRange(0, 9));
     }
 
     void staysInsideInt()

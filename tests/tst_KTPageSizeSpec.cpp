@@ -53,7 +53,8 @@ private Q_SLOTS:
         for (const KTMargins &other :
              {KTMargins(0, 2, 3, 4), KTMargins(1, 0, 3, 4), KTMargins(1, 2, 0, 4), KTMargins(1, 2, 3, 0)})
             QVERIFY(other != margins && !other.allNull());
-        QVERIFY(KTMargins() == KTMargins(0, 0) && KTMargins().allNull() && !KTMargins(0, 0, 0, 1).allNull());
+        QVERIFY(KTMargins() == KTMargins(0, 0) && KTMargins().allNull());
+        QVERIFY(!KTMargins(0, 0, 0, 1).allNull() && !KTMargins(0, 0, 1, 0).allNull());
         KTMargins copy = margins;
         const KTMargins moved = std::move(copy);
         copy = moved;
@@ -67,7 +68,8 @@ private Q_SLOTS:
         QVERIFY(spec != KTPageSizeSpec(QSize(100, 200), KTMargins()) && KTBleedMargin(0, 0).isNull());
         spec.setUsableSize(QSize(100, 201));
         QVERIFY(spec != before && KTBleedMargin(0, 1) != KTBleedMargin(1, 0)
-                && !KTBleedMargin(0, 1).isNull());
+                && KTBleedMargin(0, 1) != KTBleedMargin(0, 0) && !KTBleedMargin(0, 1).isNull());
+        QVERIFY(KTBleedMargin(2, 1) == KTBleedMargin(2, 1) && !KTBleedMargin(1, 0).isNull());
     }
 
     void matchesContexts()
@@ -93,7 +95,7 @@ private Q_SLOTS:
     {
         const KTPageSizeKey key(KTPageTypeCover, 24);
         const KTPageSizeKey other(KTPageTypeCover, 26);
-        QVERIFY(!(key < other) && !(other < key) && key != other);
+        QVERIFY(!(key < other) && !(other < key) && key != other && key == KTPageSizeKey(key));
         const KTPageSizeKey page(KTPageTypeNormalpage, 24);
         QVERIFY(!(page < key) && !(key < page) && page != key && page < other && !(other < page));
         QVERIFY(key.isValid() && KTPageSizeKey(KTPageTypeCover, 0).isValid());
