@@ -105,6 +105,20 @@ class tst_Documentation : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void listsRulesInTheManual()
+    {
+        const QString manual = contentOf(u"docs/ktcatalogue.1"_s).replace(u"\\-"_s, u"-"_s);
+        QStringList rules;
+        for (const QString &entry :
+             manual.section(u".SH RULES"_s, 1).section(u"\n.SH "_s, 0, 0).split(u".TP\n.B "_s).mid(1))
+            rules.append(entry.simplified().remove(QLatin1Char('(')).replace(u") "_s, u" "_s));
+        QStringList listed = outputOf(QStringLiteral(KT_PROGRAM), {u"check"_s, u"--list-rules"_s})
+                                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        for (QString &line : listed)
+            line = line.simplified();
+        QCOMPARE(rules, listed);
+    }
+
     void agreesOnOptions()
     {
         const Options options = helped();
