@@ -161,7 +161,7 @@ inline void runInThreads(int count, const std::function<void(int)> &function)
         thread.join();
 }
 
-/** The document element of an XML text. It keeps the document alive. */
+/** The document element of an XML text. */
 inline QDomElement element(const QString &xml)
 {
     QDomDocument document;
