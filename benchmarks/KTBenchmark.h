@@ -42,6 +42,7 @@ void addOverInputs(const std::string &name, const INPUTS &inputs, OPERATION oper
 void require(bool agreed, const QString &what);
 
 void addKeywords();
+void addCatalogue();
 void addProducts();
 void addLayout();
 

@@ -172,18 +172,19 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
         return QString();
     const KTClassification *const classification = KTClassification::ofAttribute(
         KTCatalogueFormat::instance().elementName(row.element), QString::fromLatin1(row.name));
-    const KTClassificationReading reading = classification->read(text);
-    if (reading.unknown.isEmpty())
+    const QStringList unknown = classification->unknownEntries(text);
+    if (unknown.isEmpty())
         return QString();
-    const QString word = reading.unknown.constFirst();
+    const QString &word = unknown.constFirst();
     QString message = word.isEmpty()
         ? QStringLiteral("an empty entry in %1").arg(quoted(text))
         : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), QString::fromLatin1(row.name));
-    if (reading.unknown.size() > 1)
-        message += QStringLiteral(" (nor are %1 more)").arg(reading.unknown.size() - 1);
-    message += reading.readAs.isEmpty()
+    if (unknown.size() > 1)
+        message += QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
+    const QString readAs = classification->unknownReadAs();
+    message += readAs.isEmpty()
         ? QStringLiteral("; the application reads nothing from it")
-        : QStringLiteral("; the application reads it as the default, '%1'").arg(reading.readAs);
+        : QStringLiteral("; the application reads it as the default, '%1'").arg(readAs);
     return message + suggestion(word, readableKeywords(*classification));
 }
 

@@ -2,6 +2,7 @@
 
 #include <KTArithmetic.h>
 #include <KTArticleClass.h>
+#include <KTStringLiteral.h>
 #include <KTXMLParser.h>
 
 #include <QDomElement>
@@ -10,9 +11,26 @@
 
 namespace {
 
-const QString ARTICLE_CLASS_ATTRIBUTE = QStringLiteral("article_class");
-const QString UNITS_ATTRIBUTE = QStringLiteral("units");
-const QString DEFAULT_UNIT = QStringLiteral("mm");
+constexpr KTStringLiteral NAME_ATTRIBUTE = "name";
+constexpr KTStringLiteral ARTICLE_CLASS_ATTRIBUTE = "article_class";
+constexpr KTStringLiteral PRICE_CLASS_ATTRIBUTE = "price_class";
+constexpr KTStringLiteral SHIPPING_GROUP_ATTRIBUTE = "shipping_group";
+constexpr KTStringLiteral UNITS_ATTRIBUTE = "units";
+constexpr KTStringLiteral TYPE_ATTRIBUTE = "type";
+constexpr KTStringLiteral ALIGNMENT_ATTRIBUTE = "alignment";
+constexpr KTStringLiteral WIDTH_ATTRIBUTE = "width";
+constexpr KTStringLiteral HEIGHT_ATTRIBUTE = "height";
+constexpr KTStringLiteral BLEED_TOP_ATTRIBUTE = "bleed_top";
+constexpr KTStringLiteral BLEED_BOTTOM_ATTRIBUTE = "bleed_bottom";
+constexpr KTStringLiteral BLEED_LEFT_ATTRIBUTE = "bleed_left";
+constexpr KTStringLiteral BLEED_RIGHT_ATTRIBUTE = "bleed_right";
+constexpr KTStringLiteral SLIPCASE_WIDTH_ATTRIBUTE = "slipcase_width";
+constexpr KTStringLiteral SLIPCASE_HEIGHT_ATTRIBUTE = "slipcase_height";
+constexpr KTStringLiteral COMPOSITION_TAG = "composition";
+constexpr KTStringLiteral SPINE_TAG = "spine";
+constexpr KTStringLiteral PAGE_TAG = "page";
+constexpr KTStringLiteral BARCODES_TAG = "barcodes";
+constexpr KTStringLiteral DEFAULT_UNIT = "mm";
 
 QString text(const QDomElement &element, const QString &name)
 {
@@ -29,13 +47,15 @@ int length(const QDomElement &element, const QString &name, double defaultValue,
 KTArticleModel::Page readPage(const QDomElement &element)
 {
     const KTDistanceUnit unit = KTArticleModel::readUnit(element);
-    const auto read = [&](const char *name) { return length(element, QString::fromLatin1(name), 0.0, unit); };
-    const KTMargins bleed(read("bleed_top"), read("bleed_bottom"), read("bleed_left"), read("bleed_right"));
-    KTPageSizeSpec size(QSize(read("width"), read("height")), bleed);
-    if (element.hasAttribute(QStringLiteral("slipcase_width")))
-        size.setUsableSlipcaseCoverSize(QSize(read("slipcase_width"), read("slipcase_height")));
-    return {KTPageContext(KTPageType(text(element, QStringLiteral("type"))),
-                          KTPageAlignment(text(element, QStringLiteral("alignment")))),
+    const auto read = [&](const QString &name) { return length(element, name, 0.0, unit); };
+    const KTMargins bleed(read(BLEED_TOP_ATTRIBUTE), read(BLEED_BOTTOM_ATTRIBUTE), read(BLEED_LEFT_ATTRIBUTE),
+                          read(BLEED_RIGHT_ATTRIBUTE));
+    KTPageSizeSpec size(QSize(read(WIDTH_ATTRIBUTE), read(HEIGHT_ATTRIBUTE)), bleed);
+    if (element.hasAttribute(SLIPCASE_WIDTH_ATTRIBUTE))
+        size.setUsableSlipcaseCoverSize(
+            QSize(read(SLIPCASE_WIDTH_ATTRIBUTE), read(SLIPCASE_HEIGHT_ATTRIBUTE)));
+    return {KTPageContext(KTPageType(text(element, TYPE_ATTRIBUTE)),
+                          KTPageAlignment(text(element, ALIGNMENT_ATTRIBUTE))),
             size};
 }
 
@@ -43,27 +63,29 @@ KTArticleModel::Page readPage(const QDomElement &element)
 
 KTArticleModel::KTArticleModel(const QDomElement &article)
     : articleId(KTArticleId::findId(article))
-    , name(text(article, QStringLiteral("name")))
+    , name(text(article, NAME_ATTRIBUTE))
     , productType(KTProductType::fromMcf(article))
-    , priceClass(text(article, QStringLiteral("price_class")))
-    , shippingGroup(article, QStringLiteral("shipping_group"))
+    , priceClass(text(article, PRICE_CLASS_ATTRIBUTE))
+    , shippingGroup(article, SHIPPING_GROUP_ATTRIBUTE)
     , options(article)
     , pageCounts(readPageCounts(article))
     , spine(KTSpineConfig::createFromProductsXML(article))
-    , hasSpine(!article.firstChildElement(QStringLiteral("composition"))
-                    .firstChildElement(QStringLiteral("spine"))
-                    .isNull())
+    , hasSpine(!article.firstChildElement(COMPOSITION_TAG).firstChildElement(SPINE_TAG).isNull())
 {
+    const QString element = article.tagName();
     for (const KTClassification &classification : KTClassification::all()) {
-        if (classification.element() == article.tagName() && article.hasAttribute(classification.attribute()))
-            classifications.append(
-                {&classification, classification.read(text(article, classification.attribute()))});
+        if (classification.element() != element)
+            continue;
+        // A missing attribute is null, one without text is only empty.
+        const QString value = text(article, classification.attribute());
+        if (!value.isNull())
+            classifications.append({&classification, value, classification.decode(value)});
     }
-    for (QDomElement page = article.firstChildElement(QStringLiteral("page")); !page.isNull();
-         page = page.nextSiblingElement(QStringLiteral("page"))) {
+    for (QDomElement page = article.firstChildElement(PAGE_TAG); !page.isNull();
+         page = page.nextSiblingElement(PAGE_TAG)) {
         pages.append(readPage(page));
     }
-    const QDomElement barcodeParent = article.firstChildElement(QStringLiteral("barcodes"));
+    const QDomElement barcodeParent = article.firstChildElement(BARCODES_TAG);
     barcodes = KTBarcodeDefinitionList::createFromProductsXML(barcodeParent, readUnit(barcodeParent));
 }
 
@@ -79,7 +101,7 @@ KTPageCountOrganization KTArticleModel::readPageCounts(const QDomElement &articl
 KTDistanceUnit KTArticleModel::readUnit(const QDomElement &element)
 {
     const QString unit = text(element, UNITS_ATTRIBUTE);
-    return KTDistanceUnit(unit.isEmpty() ? DEFAULT_UNIT : unit);
+    return KTDistanceUnit(unit.isEmpty() ? QString(DEFAULT_UNIT) : unit);
 }
 
 QPair<int, int> KTArticleModel::validPagesAround(int wish) const

@@ -28,6 +28,14 @@ struct KTArticleModel
         KTPageSizeSpec size;
     };
 
+    /** What the library reads from a classification attribute. */
+    struct Classified
+    {
+        const KTClassification *classification;
+        QString text;
+        qint64 value;
+    };
+
     /** Reads everything; what is missing or malformed takes the library's defaults. */
     explicit KTArticleModel(const QDomElement &article);
 
@@ -44,7 +52,7 @@ struct KTArticleModel
     KTArticleId articleId;
     QString name;
     /** Only those whose attribute is there. */
-    QVector<QPair<const KTClassification *, KTClassificationReading>> classifications;
+    QVector<Classified> classifications;
     KTProductType productType;
     KTPriceClass priceClass;
     KTShippingGroupId shippingGroup;

@@ -63,13 +63,15 @@ QList<int> samplePageCounts(const KTArticleModel &article, const QList<int> &pag
 QStringList classificationLines(const KTArticleModel &article)
 {
     QStringList lines;
-    for (const auto &entry : article.classifications) {
-        const KTClassificationReading &reading = entry.second;
-        lines.append(line(entry.first->attribute(),
-                          QStringLiteral("%1  %2").arg(reading.written, reading.displayName)));
-        for (const QString &keyword : reading.unknown) {
-            const QString readAs = reading.readAs.isEmpty() ? QStringLiteral("nothing")
-                                                            : QStringLiteral("'%1'").arg(reading.readAs);
+    for (const KTArticleModel::Classified &entry : article.classifications) {
+        const KTClassification &classification = *entry.classification;
+        lines.append(line(classification.attribute(),
+                          QStringLiteral("%1  %2").arg(classification.written(entry.value),
+                                                       classification.displayName(entry.value))));
+        for (const QString &keyword : classification.unknownEntries(entry.text)) {
+            const QString word = classification.unknownReadAs();
+            const QString readAs
+                = word.isEmpty() ? QStringLiteral("nothing") : QStringLiteral("'%1'").arg(word);
             lines.append(line(
                 QString(), QStringLiteral("unknown keyword '%1', read as %2").arg(visible(keyword), readAs)));
         }
@@ -216,17 +218,18 @@ QJsonObject optionJson(const KTConfiguredArticleVariant &option)
 QJsonObject classificationsJson(const KTArticleModel &article)
 {
     QJsonObject object;
-    for (const auto &entry : article.classifications) {
-        const KTClassificationReading &reading = entry.second;
+    for (const KTArticleModel::Classified &entry : article.classifications) {
+        const KTClassification &classification = *entry.classification;
         QJsonObject json {
-            {QStringLiteral("keyword"), reading.written    },
-            {QStringLiteral("name"),    reading.displayName}
+            {QStringLiteral("keyword"), classification.written(entry.value)    },
+            {QStringLiteral("name"),    classification.displayName(entry.value)}
         };
-        if (!reading.unknown.isEmpty()) {
-            json.insert(QStringLiteral("unknown"), QJsonArray::fromStringList(reading.unknown));
-            json.insert(QStringLiteral("readAs"), reading.readAs);
+        const QStringList unknown = classification.unknownEntries(entry.text);
+        if (!unknown.isEmpty()) {
+            json.insert(QStringLiteral("unknown"), QJsonArray::fromStringList(unknown));
+            json.insert(QStringLiteral("readAs"), classification.unknownReadAs());
         }
-        object.insert(entry.first->attribute(), json);
+        object.insert(classification.attribute(), json);
     }
     return object;
 }

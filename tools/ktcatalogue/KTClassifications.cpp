@@ -63,24 +63,27 @@ QString displayName(const KTSpaceMagnitude &value)
 }
 
 template <typename CLASS>
+CLASS classified(qint64 value)
+{
+    return CLASS(static_cast<decltype(CLASS().value())>(value));
+}
+
+template <typename CLASS>
 QString written(const CLASS &value)
 {
     return value.allKnownEnumValues().contains(value.value()) ? value.encode() : value.encodeCSV();
 }
 
 template <typename CLASS>
-KTClassificationReading readText(const QString &text)
+QStringList unknownEntriesOf(const QString &text)
 {
-    const CLASS value(text);
-    KTClassificationReading reading {written(value), displayName(value), {}, {}, value.value()};
-    const auto &known = value.enumToStringTable()->keywordToValue;
+    const auto &known = CLASS().enumToStringTable()->keywordToValue;
+    QStringList unknown;
     for (const QString &part : text.split(QLatin1Char(','))) {
         if (!known.contains(part.trimmed().toLower()))
-            reading.unknown.append(part.trimmed());
+            unknown.append(part.trimmed());
     }
-    if (!reading.unknown.isEmpty())
-        reading.readAs = written(CLASS(value.enumToStringTable()->defaultValue));
-    return reading;
+    return unknown;
 }
 
 template <typename CLASS>
@@ -105,10 +108,14 @@ template <typename CLASS>
 KTClassification classification(const char *className, const char *element, const char *attribute)
 {
     KTClassification row;
-    row.myClassName = className;
-    row.myElement = element;
-    row.myAttribute = attribute;
-    row.myRead = &readText<CLASS>;
+    row.myClassName = QString::fromLatin1(className);
+    row.myElement = QString::fromLatin1(element);
+    row.myAttribute = QString::fromLatin1(attribute);
+    row.myDecode = [](const QString &text) -> qint64 { return CLASS(text).value(); };
+    row.myWritten = [](qint64 value) { return written(classified<CLASS>(value)); };
+    row.myDisplayName = [](qint64 value) { return displayName(classified<CLASS>(value)); };
+    row.myUnknownEntries = &unknownEntriesOf<CLASS>;
+    row.myUnknownReadAs = [] { return written(CLASS(CLASS().enumToStringTable()->defaultValue)); };
     row.myKeywords = &keywordsOf<CLASS>;
     return row;
 }

@@ -4,19 +4,6 @@
 #include <QStringList>
 #include <QVector>
 
-/** What the library reads from the text of a classification attribute. */
-struct KTClassificationReading
-{
-    /** The keyword that the library writes for the value; the bits' keywords for a union without one. */
-    QString written;
-    QString displayName;
-    /** The entries of the text that are no keywords. */
-    QStringList unknown;
-    /** What the library reads an unknown entry as; empty for nothing at all. */
-    QString readAs;
-    qint64 value = 0;
-};
-
 /** One value of a keyword table. */
 struct KTKeywordInfo
 {
@@ -37,12 +24,20 @@ public:
     static const KTClassification *ofAttribute(const QString &element, const QString &attribute);
     static const KTClassification *ofClass(const QString &className);
 
-    QString className() const { return QString::fromLatin1(myClassName); }
+    QString className() const { return myClassName; }
     /** Empty for a classification that no attribute carries. */
-    QString element() const { return QString::fromLatin1(myElement); }
-    QString attribute() const { return QString::fromLatin1(myAttribute); }
+    QString element() const { return myElement; }
+    QString attribute() const { return myAttribute; }
 
-    KTClassificationReading read(const QString &text) const { return myRead(text); }
+    /** The value that the library reads from a text. */
+    qint64 decode(const QString &text) const { return myDecode(text); }
+    /** The keyword that the library writes for the value; the bits' keywords for a union without one. */
+    QString written(qint64 value) const { return myWritten(value); }
+    QString displayName(qint64 value) const { return myDisplayName(value); }
+    /** The entries of the text that are no keywords. */
+    QStringList unknownEntries(const QString &text) const { return myUnknownEntries(text); }
+    /** What is written for the value that an unknown entry becomes; empty for nothing at all. */
+    QString unknownReadAs() const { return myUnknownReadAs(); }
     /** Every value with a keyword, in ascending order. */
     QVector<KTKeywordInfo> keywords() const { return myKeywords(); }
     /** Every text that can be read, sorted, in lower case. */
@@ -52,9 +47,13 @@ private:
     template <typename CLASS>
     friend KTClassification classification(const char *, const char *, const char *);
 
-    const char *myClassName;
-    const char *myElement;
-    const char *myAttribute;
-    KTClassificationReading (*myRead)(const QString &);
+    QString myClassName;
+    QString myElement;
+    QString myAttribute;
+    qint64 (*myDecode)(const QString &);
+    QString (*myWritten)(qint64);
+    QString (*myDisplayName)(qint64);
+    QStringList (*myUnknownEntries)(const QString &);
+    QString (*myUnknownReadAs)();
     QVector<KTKeywordInfo> (*myKeywords)();
 };

@@ -33,8 +33,8 @@ QString placeOf(const KTClassification &row, const QString &quote)
 /** What the text is read as, in words. */
 QString resultOf(const KTClassification &row, const QString &text, const QString &quote)
 {
-    const KTClassificationReading reading = row.read(text);
-    return reading.value == 0 ? NOTHING : quote + reading.written + quote;
+    const qint64 value = row.decode(text);
+    return value == 0 ? NOTHING : quote + row.written(value) + quote;
 }
 
 /** What happens to texts that are no keywords. */
@@ -42,7 +42,8 @@ QString defaults(const KTClassification &row, const QString &quote)
 {
     const QString unknown = resultOf(row, UNKNOWN_WORD, quote);
     const QString empty = resultOf(row, QString(), quote);
-    const QString written = row.read(UNKNOWN_WORD).value == 0 ? row.read(UNKNOWN_WORD).written : QString();
+    const qint64 value = row.decode(UNKNOWN_WORD);
+    const QString written = value == 0 ? row.written(value) : QString();
     return (unknown == empty
                 ? QStringLiteral("An unknown word and an empty text become %1").arg(unknown)
                 : QStringLiteral("An unknown word becomes %1, an empty text %2").arg(unknown, empty))
@@ -88,12 +89,13 @@ QString text(const QVector<KTClassification> &rows)
     return texts.join(QLatin1Char('\n'));
 }
 
-QJsonObject readingJson(const KTClassificationReading &reading)
+QJsonObject readingJson(const KTClassification &row, const QString &text)
 {
+    const qint64 value = row.decode(text);
     return {
-        {QStringLiteral("value"),   reading.value      },
-        {QStringLiteral("written"), reading.written    },
-        {QStringLiteral("name"),    reading.displayName}
+        {QStringLiteral("value"),   value                 },
+        {QStringLiteral("written"), row.written(value)    },
+        {QStringLiteral("name"),    row.displayName(value)}
     };
 }
 
@@ -109,13 +111,15 @@ QString json(const QVector<KTClassification> &rows)
                 {QStringLiteral("value"),   keyword.value                              },
                 {QStringLiteral("name"),    keyword.displayName                        }
             });
+        const QJsonObject unknownWord = readingJson(row, UNKNOWN_WORD);
+        const QJsonObject emptyText = readingJson(row, QString());
         tables.append(QJsonObject {
-            {QStringLiteral("class"),       row.className()                    },
-            {QStringLiteral("element"),     row.element()                      },
-            {QStringLiteral("attribute"),   row.attribute()                    },
-            {QStringLiteral("keywords"),    keywords                           },
-            {QStringLiteral("unknownWord"), readingJson(row.read(UNKNOWN_WORD))},
-            {QStringLiteral("emptyText"),   readingJson(row.read(QString()))   }
+            {QStringLiteral("class"),       row.className()},
+            {QStringLiteral("element"),     row.element()  },
+            {QStringLiteral("attribute"),   row.attribute()},
+            {QStringLiteral("keywords"),    keywords       },
+            {QStringLiteral("unknownWord"), unknownWord    },
+            {QStringLiteral("emptyText"),   emptyText      }
         });
     }
     return QString::fromUtf8(QJsonDocument(tables).toJson());
