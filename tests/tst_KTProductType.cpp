@@ -105,8 +105,9 @@ private Q_SLOTS:
         // Refused first of all, so even where the list has one already.
         list.append(KTProductType(QString()));
         list.addWithoutDoubles(KTProductType(QString()));
+        list.addWithoutDoubles(list);
         QCOMPARE(list.size(), 6);
-        QCOMPARE(recorder.messages().size(), 1);
+        QCOMPARE(recorder.messages().size(), 2);
         const KTMessageRecorder::Message message = recorder.messages().first();
         QCOMPARE(message.text, u"there is no \"UNKNOWN\""_s);
         QCOMPARE(QByteArray::number(message.type) + ' ' + message.category + ' ' + message.file + ':'

@@ -28,17 +28,12 @@ constexpr const ROW &rowOf(const ROW (&rows)[N], VALUE value, const ROW &fallbac
     return fallback;
 }
 
-/**
- * A new table of the rows' texts, each translated now in the context; the caller owns it. A row whose text is
- * a null pointer is left out.
- */
+/** A new table of the rows' texts, each translated now in the context; the caller owns it. */
 template <typename KEY, typename ROW, std::size_t N>
 [[nodiscard]] KTLookUpTable<KEY, QString> *createTextTable(const char *context, const ROW (&rows)[N])
 {
     auto *const table = new KTLookUpTable<KEY, QString> {};
-    for (const ROW &row : rows) {
-        if (row.text)
-            table->map.insert(row.value, QCoreApplication::translate(context, row.text));
-    }
+    for (const ROW &row : rows)
+        table->map.insert(row.value, QCoreApplication::translate(context, row.text));
     return table;
 }
