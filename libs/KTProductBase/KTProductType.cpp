@@ -73,8 +73,7 @@ bool KTProductType::isAgenda() const
 
 bool KTProductType::operator==(const KTProductType &other) const
 {
-    return myHashValue == other.myHashValue && isUnknown() == other.isUnknown()
-        && myCode.compare(other.myCode, Qt::CaseInsensitive) == 0;
+    return myHashValue == other.myHashValue && myCode.compare(other.myCode, Qt::CaseInsensitive) == 0;
 }
 
 bool KTProductType::operator<(const KTProductType &other) const
