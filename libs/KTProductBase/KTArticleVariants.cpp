@@ -129,7 +129,11 @@ void KTArticleVariants::insert(const QString &key, const QString &value)
 
 void KTArticleVariants::insert(const KTArticleVariants &other)
 {
-    myVariants.insert(other.myVariants);
+    // One by one: QHash takes over the other's hashes, which differ when the application has set another
+    // seed.
+    const QHash<QString, QString> added = other.myVariants;
+    for (auto pair = added.begin(); pair != added.end(); ++pair)
+        myVariants.insert(pair.key(), pair.value());
 }
 
 QString KTArticleVariants::value(const QString &key, const QString &defaultValue) const

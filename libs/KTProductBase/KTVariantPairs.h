@@ -21,9 +21,11 @@ constexpr KTStringLiteral PAIR_TEMPLATE = "%1:%2";
  */
 inline QString filled(const QString &pairTemplate, const QString &key, const QString &value)
 {
+    constexpr int MOST_REPEATS = 100;
     constexpr qint64 MOST_REPEATED = 1000000;
     const QString withKey = pairTemplate.arg(key);
-    if (qint64(withKey.count(QLatin1Char('%'))) * value.size() > MOST_REPEATED)
+    const int markers = withKey.count(QLatin1Char('%'));
+    if (markers > MOST_REPEATS && qint64(markers) * value.size() > MOST_REPEATED)
         return pairTemplate.arg(key, value);
     return withKey.arg(value);
 }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstring>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 /**
@@ -194,9 +195,11 @@ void KTKeywordMap<KEY, VALUE>::insert(const KEY &key, const VALUE &value)
         myEntries[static_cast<std::size_t>(entry - myEntries.data())].value = value;
         return;
     }
+    // Taken before the entries move: key or value may be a part of one of them.
+    Entry added {key, value};
     if (2 * (myEntries.size() + 1) > mySlots.size())
         grow();
-    myEntries.push_back({key, value});
+    myEntries.push_back(std::move(added));
     occupySlot(myEntries.size());
 }
 
