@@ -3,6 +3,7 @@
 #include <KTKeywordRow.h>
 
 #include <QDebug>
+#include <QMessageLogger>
 
 namespace {
 
@@ -35,7 +36,8 @@ double factor(KTDistanceUnitEnum unit)
         if (row.unit == unit)
             return row.factor;
     }
-    qWarning() << "distance not supported!" << unit;
+    QMessageLogger("libs/KTCore/KTDistanceUnit", __LINE__, Q_FUNC_INFO, "default").warning()
+        << "distance not supported!" << unit;
     return 1.0;
 }
 

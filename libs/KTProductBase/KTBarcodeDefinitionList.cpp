@@ -95,36 +95,46 @@ KTBarcodeDefinitionList IndexedList::toList() const
     return list;
 }
 
-/** How a region is stored: in bands from top to bottom, each a row of rectangles. */
-struct Bands
+/** How a region is stored: in bands from top to bottom, each a row of rectangles of one height. */
+struct Band
 {
-    qint64 count = 0;
-    qint64 widest = 0;
+    int top;
+    int bottom;
+    qint64 width;
 };
 
-Bands bandsOf(const QRegion &region)
+QVector<Band> bandsOf(const QRegion &region)
 {
-    Bands bands;
-    qint64 width = 0;
-    int top = 0;
+    QVector<Band> bands;
     for (const QRect &rect : region) {
-        if (bands.count == 0 || rect.top() != top) {
-            ++bands.count;
-            top = rect.top();
-            width = 0;
-        }
-        bands.widest = std::max(bands.widest, ++width);
+        if (bands.isEmpty() || rect.top() != bands.last().top)
+            bands.append({rect.top(), rect.bottom(), 0});
+        ++bands.last().width;
     }
     return bands;
+}
+
+/** Into how many rectangles the edges of the other bands cut these. */
+qint64 piecesOf(const QVector<Band> &bands, const QVector<Band> &others)
+{
+    QVector<qint64> edges;
+    for (const Band &other : others)
+        edges << other.top << qint64(other.bottom) + 1;
+    qint64 pieces = 0;
+    for (const Band &band : bands) {
+        const auto *const first = std::upper_bound(edges.cbegin(), edges.cend(), band.top);
+        const auto *const last = std::upper_bound(first, edges.cend(), band.bottom);
+        pieces += band.width * (1 + (last - first));
+    }
+    return pieces;
 }
 
 /** The union; the rectangle around it when bars that cross would cut it into too many pieces to hold. */
 QRegion united(const QRegion &first, const QRegion &second)
 {
-    const Bands firstBands = bandsOf(first);
-    const Bands secondBands = bandsOf(second);
-    const qint64 mostPieces
-        = 2 * (firstBands.count + secondBands.count) * (firstBands.widest + secondBands.widest);
+    const QVector<Band> firstBands = bandsOf(first);
+    const QVector<Band> secondBands = bandsOf(second);
+    const qint64 mostPieces = piecesOf(firstBands, secondBands) + piecesOf(secondBands, firstBands);
     return mostPieces > MOST_PIECES ? QRegion(first.boundingRect() | second.boundingRect()) : first | second;
 }
 

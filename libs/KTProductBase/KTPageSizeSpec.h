@@ -6,7 +6,11 @@
 #include <QPointF>
 #include <QSize>
 
-/** The size of a page in layout units: what may be printed on, the bleed around it, and the slipcase. */
+/**
+ * The size of a page in layout units: what may be printed on, the bleed around it, and the slipcase.
+ *
+ * Moved-from ones may only be assigned to or destroyed.
+ */
 class KTPRODUCTBASE_EXPORT KTPageSizeSpec
 {
 public:

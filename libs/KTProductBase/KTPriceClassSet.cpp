@@ -73,12 +73,12 @@ KTPriceClassSet createGroup(Group group)
     return priceClasses;
 }
 
-/** The group, built by whichever thread asks first. */
+/** The group, built by whichever thread asks first; never freed, because destructors may ask at the end. */
 template <Group GROUP>
 const KTPriceClassSet &theGroup()
 {
-    static const KTPriceClassSet myGroup = createGroup(GROUP);
-    return myGroup;
+    static const auto *const myGroup = new KTPriceClassSet(createGroup(GROUP));
+    return *myGroup;
 }
 
 QStringList codesOf(const KTPriceClassSet &priceClasses)

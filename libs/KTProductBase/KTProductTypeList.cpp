@@ -75,11 +75,12 @@ void KTProductTypeList::addWithoutDoubles(const KTProductTypeList &other)
     // When the other list is this one, all of it is present, and nothing changes under the loop.
     QSet<KTProductType> present(begin(), end());
     for (const KTProductType &type : other) {
-        // An unknown one is refused each time, even where the list has one already.
-        if (type.isValid() && present.contains(type))
-            continue;
-        addWithoutDoubles(type);
-        present.insert(type);
+        if (type.isUnknown()) {
+            addWithoutDoubles(type);
+        } else if (!present.contains(type)) {
+            append(type);
+            present.insert(type);
+        }
     }
 }
 
