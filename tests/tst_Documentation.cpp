@@ -1,16 +1,15 @@
+#include <KTCatalogueFormat.h>
+
 #include "KTTestSupport.h"
 
 #include <QFile>
-#include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
-#include <QtTest>
 
 namespace {
 
-/** By command, an empty one for the program itself: its options, "-o" as well as "--output". */
-using Options = QMap<QString, QSet<QString>>;
+const QString PROGRAM = QStringLiteral(KT_PROGRAM);
 
 QString outputOf(const QString &program, const QStringList &arguments)
 {
@@ -26,77 +25,36 @@ QString contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+QString manual()
+{
+    return contentOf(u"docs/ktcatalogue.1"_s).replace(u"\\-"_s, u"-"_s);
+}
+
+/** What the groups of the pattern capture, with blanks between them, for each match. */
 QStringList captures(const QString &text, const QString &pattern)
 {
     QStringList found;
     auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text);
     while (matches.hasNext())
-        found.append(matches.next().captured(1));
+        found.append(matches.next().capturedTexts().mid(1).join(u' '));
     return found;
 }
 
-QSet<QString> optionsIn(const QString &text)
+/** The options, "-o" as well as "--output", in what the pattern captures. */
+QSet<QString> options(const QString &text, const QString &pattern)
 {
-    const QStringList options = captures(text, u"(?<![\\w-])(--?[a-z][a-z-]*)"_s);
-    return QSet<QString>(options.begin(), options.end());
-}
-
-/** The first column of what --help says of options. */
-QSet<QString> helpedOptions(const QString &help)
-{
-    return optionsIn(captures(help, u"^  (-.*?)(?:  |$)"_s).join(u' '));
-}
-
-Options helped()
-{
-    const QString help = outputOf(QStringLiteral(KT_PROGRAM), {u"--help"_s});
-    Options options {
-        {QString(), helpedOptions(help)}
-    };
-    const QString commands = help.section(u"Commands"_s, 1).section(u"\n\n"_s, 0, 0);
-    for (const QString &command : captures(commands, u"^  ([a-z]+)"_s))
-        options.insert(command, helpedOptions(outputOf(QStringLiteral(KT_PROGRAM), {command, u"--help"_s})));
-    return options;
-}
-
-/** The options of a command stand in its subsection, each after ".TP"; --help stands with the program's. */
-Options inManual()
-{
-    const QString manual = contentOf(u"docs/ktcatalogue.1"_s).replace(u"\\-"_s, u"-"_s);
-    const auto tagged
-        = [](const QString &section) { return optionsIn(captures(section, u"^\\.TP\n(.*)$"_s).join(u' ')); };
-    Options options {
-        {QString(), tagged(manual.section(u".SH OPTIONS"_s, 1).section(u"\n.SH "_s, 0, 0))}
-    };
-    const QStringList sections
-        = manual.section(u".SH COMMANDS"_s, 1).section(u"\n.SH "_s, 0, 0).split(u"\n.SS "_s).mid(1);
-    for (const QString &section : sections)
-        options.insert(section.section(u'\n', 0, 0), tagged(section) + QSet<QString> {u"-h"_s, u"--help"_s});
-    return options;
+    const QStringList found = captures(captures(text, pattern).join(u' '), u"(?<![\\w-])(--?[a-z][a-z-]*)"_s);
+    return QSet<QString>(found.begin(), found.end());
 }
 
 /** What bash offers after the words, the last of which is not complete yet. */
-QStringList completed(const QString &words)
+QString completed(const QString &words)
 {
     const QString script = u"source '%1/tools/ktcatalogue/ktcatalogue.bash'\n"
                            "COMP_WORDS=('%2' %3)\nCOMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n"
                            "_ktcatalogue\nprintf '%s\\n' \"${COMPREPLY[@]}\""_s;
     return outputOf(u"bash"_s,
-                    {u"--norc"_s, u"-c"_s,
-                     script.arg(QStringLiteral(KT_SOURCE_DIR), QStringLiteral(KT_PROGRAM), words)})
-        .split(u'\n', Qt::SkipEmptyParts);
-}
-
-Options inCompletion()
-{
-    Options options {
-        {QString(), optionsIn(completed(u"-"_s).join(u' '))}
-    };
-    for (const QString &word : completed(u"''"_s)) {
-        if (!word.startsWith(u'-'))
-            options.insert(word, optionsIn(completed(word + u" -"_s).join(u' ')));
-    }
-    return options;
+                    {u"--norc"_s, u"-c"_s, script.arg(QStringLiteral(KT_SOURCE_DIR), PROGRAM, words)});
 }
 
 } // namespace
@@ -105,37 +63,65 @@ class tst_Documentation : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void listsRulesInTheManual()
+    void listsRules()
     {
-        const QString manual = contentOf(u"docs/ktcatalogue.1"_s).replace(u"\\-"_s, u"-"_s);
-        QStringList rules;
-        for (const QString &entry :
-             manual.section(u".SH RULES"_s, 1).section(u"\n.SH "_s, 0, 0).split(u".TP\n.B "_s).mid(1))
-            rules.append(entry.simplified().remove(QLatin1Char('(')).replace(u") "_s, u" "_s));
-        QStringList listed = outputOf(QStringLiteral(KT_PROGRAM), {u"check"_s, u"--list-rules"_s})
-                                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        for (QString &line : listed)
-            line = line.simplified();
-        QCOMPARE(rules, listed);
+        const QStringList rules
+            = captures(outputOf(PROGRAM, {u"check"_s, u"--list-rules"_s}), u"^(\\S+) +(\\S+) +(.+)$"_s);
+        QCOMPARE(captures(manual(), u"^\\.B ([a-z-]+)\n\\((\\w+)\\) (.+)$"_s), rules);
+        // The severity stands last, and the summary begins with a capital letter.
+        const QString page = contentOf(u"docs/catalogue-format.md"_s).replace(u'`', u'\'');
+        const QString row = u"^\\| '([a-z]+-[a-z-]+)' (?=.*\\| (\\w+) \\|$)\\| (.+) \\| \\w+ \\|$"_s;
+        QCOMPARE(captures(page, row).join(u'\n').toLower(), rules.join(u'\n').toLower());
+    }
+
+    void listsAttributes()
+    {
+        // In the first of three cells, with the element unless that is the last one in the heading.
+        const QString name = u"`(\\w+)`(?: \\(of `(\\w+)`\\))?(?=(?:[^|\n]*\\|){3}$)"_s;
+        QStringList documented;
+        for (const QString &section : contentOf(u"docs/catalogue-format.md"_s).split(u"\n## "_s)) {
+            const QString element = u' ' + section.section(u'\n', 0, 0).section(u'`', -2, -2);
+            for (const QString &attribute : captures(section, name))
+                documented.append(attribute.contains(u' ') ? attribute : attribute + element);
+        }
+        QStringList known;
+        const KTCatalogueFormat &format = KTCatalogueFormat::instance();
+        for (const KTAttributeRow &row : format.attributes())
+            known.append(QString::fromLatin1(row.name) + u' ' + format.elementName(row.element));
+        QCOMPARE(documented, known);
     }
 
     void agreesOnOptions()
     {
-        const Options options = helped();
-        QVERIFY(options.size() > 1 && options.value(u"preview"_s).contains(u"-o"_s));
-        QCOMPARE(inManual(), options);
-        QCOMPARE(inCompletion(), options);
+        // The last one, without a name, is the program itself.
+        const QStringList commands = captures(outputOf(PROGRAM, {u"--help"_s}), u"^  ([a-z]+)  "_s)
+            << QString();
+        QVERIFY(commands.contains(u"preview"_s));
+        QCOMPARE(captures(completed(u"''"_s), u"^([a-z]+)$"_s) << QString(), commands);
+        QCOMPARE(captures(manual(), u"^\\.SS (.+)$"_s) << QString(), commands);
+        for (const QString &command : commands) {
+            const QString help
+                = outputOf(PROGRAM, QString(command + u" --help"_s).split(u' ', Qt::SkipEmptyParts));
+            const QSet<QString> expected = options(help, u"^  (-.*?)(?:  |$)"_s);
+            QCOMPARE(options(completed(command + u" -"_s), u"(.+)"_s), expected);
+            // In the manual, --help stands only with the program's.
+            const QString title = command.isEmpty() ? u"\n.SH OPTIONS\n"_s : u"\n.SS %1\n"_s.arg(command);
+            const QSet<QString> common
+                = command.isEmpty() ? QSet<QString>() : QSet<QString> {u"-h"_s, u"--help"_s};
+            const QString section = manual().section(title, 1).section(u"\n.S"_s, 0, 0);
+            QCOMPARE(options(section, u"^\\.TP\n(.*)$"_s) + common, expected);
+        }
     }
 
     void completesWords()
     {
-        QCOMPARE(completed(u"keywords --format = j"_s), QStringList(u"json"_s));
-        QCOMPARE(completed(u"keywords KTOr"_s), QStringList(u"KTOrientation"_s));
+        QCOMPARE(completed(u"keywords --format = j"_s), u"json\n"_s);
+        QCOMPARE(completed(u"keywords KTOr"_s), u"KTOrientation\n"_s);
     }
 
     void listsKeywords()
     {
-        const QString page = outputOf(QStringLiteral(KT_PROGRAM), {u"keywords"_s, u"--format=markdown"_s});
+        const QString page = outputOf(PROGRAM, {u"keywords"_s, u"--format=markdown"_s});
         QVERIFY(!page.isEmpty());
         QVERIFY2(contentOf(u"docs/keywords.md"_s) == page,
                  "run: ktcatalogue keywords --format markdown > docs/keywords.md");
