@@ -6,6 +6,8 @@
 #include <QDebug>
 #include <QString>
 
+#include <utility>
+
 // Ends the process, as libFuzzer expects it, when a promise of the library is broken.
 #define KT_REQUIRE(promise) ((promise) ? void() : KTFuzz::fail(__FILE__, __LINE__, #promise))
 
@@ -19,12 +21,7 @@ void texts(const QByteArray &input);
 /** A whole catalogue file, through the inspector. */
 void catalogue(const QByteArray &input);
 
-struct Target
-{
-    const char *name;
-    void (*run)(const QByteArray &);
-};
-constexpr Target TARGETS[] = {
+constexpr std::pair<const char *, void (*)(const QByteArray &)> TARGETS[] = {
     {"elements",  &elements },
     {"texts",     &texts    },
     {"catalogue", &catalogue},

@@ -18,9 +18,8 @@ void KTFuzz::catalogue(const QByteArray &input)
     while (reader.readNext(&article)) {
         KT_REQUIRE(reader.errorText().isEmpty() && !article.elements().isEmpty());
         const KTArticleModel model(article.element());
-        for (const QList<int> &pageCounts : {
-                 QList<int>(), QList<int> {INT_MIN, 0, 1, INT_MAX}
-        }) {
+        const QList<int> boundaries {INT_MIN, 0, 1, INT_MAX};
+        for (const QList<int> &pageCounts : {QList<int>(), boundaries}) {
             const QString text = KTArticleReport::toText(model, pageCounts);
             // A terminal gets nothing but lines of visible text.
             for (const QChar character : text)

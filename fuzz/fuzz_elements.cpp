@@ -22,21 +22,21 @@ namespace {
 
 constexpr int MAXIMUM_ELEMENTS = 12;
 
-constexpr const char *TAGS = "article composition spine barcodes barcode forms form page";
-constexpr const char *NAMES
-    = "pages max_pages page_step pieces packages_per_block base_width block_width additional_width units "
-      "position_x position_y width height pageNr image key value key_name value_name editor_name preview "
-      "color preselected not_accountable id art_id article_id shipping_group productname bleed_top "
-      "bleed_left slipcase_height";
-constexpr const char *VALUES
-    = "-2147483648 -2147483647 -1 0 1 2 7 2000 1000000000 2147483640 2147483646 2147483647 4294967295 nan "
-      "inf -inf 1e300 -1e300 1e-300 -1.5 214748364.7 1e999 mm inch pt parsec alcolor coverphoto boxstyle "
-      "giftboxcolor;boxstyle black;wood gold true #80ff8000 ALB9_30 CAL29 dummy-barcode.png ../x.png %1%2 ";
-
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(u' ');
 }
+
+const QStringList TAGS = words("article composition spine barcodes barcode forms form page");
+const QStringList NAMES = words(
+    "pages max_pages page_step pieces packages_per_block base_width block_width additional_width units "
+    "position_x position_y width height pageNr image key value key_name value_name editor_name preview "
+    "color preselected not_accountable id art_id article_id shipping_group productname bleed_top "
+    "bleed_left slipcase_height");
+const QStringList VALUES = words(
+    "-2147483648 -2147483647 -1 0 1 2 7 2000 1000000000 2147483640 2147483646 2147483647 4294967295 nan "
+    "inf -inf 1e300 -1e300 1e-300 -1.5 214748364.7 1e999 mm inch pt parsec alcolor coverphoto boxstyle "
+    "giftboxcolor;boxstyle black;wood gold true #80ff8000 ALB9_30 CAL29 dummy-barcode.png ../x.png %1%2 ");
 
 /** Takes the next byte, 0 at the end. */
 uchar take(QByteArray *input)
@@ -52,26 +52,23 @@ uchar take(QByteArray *input)
  */
 QVector<QDomElement> elementsOf(QByteArray input, QDomDocument *document)
 {
-    static const QStringList tags = words(TAGS);
-    static const QStringList names = words(NAMES);
-    static const QStringList values = words(VALUES);
     QDomElement element = document->createElement(QStringLiteral("catalogue"));
     document->appendChild(element);
     QVector<QDomElement> elements {element};
     while (!input.isEmpty()) {
         const int choice = take(&input);
-        if (choice < tags.size() && elements.size() < MAXIMUM_ELEMENTS) {
-            element = element.appendChild(document->createElement(tags.at(choice))).toElement();
+        if (choice < TAGS.size() && elements.size() < MAXIMUM_ELEMENTS) {
+            element = element.appendChild(document->createElement(TAGS.at(choice))).toElement();
             elements.append(element);
-        } else if (choice == tags.size() && element != elements.constFirst()) {
+        } else if (choice == TAGS.size() && element != elements.constFirst()) {
             element = element.parentNode().toElement();
         } else {
             const int value = take(&input);
             const QByteArray line = input.left(qMax(0, input.indexOf('\n')));
-            if (value >= values.size())
+            if (value >= VALUES.size())
                 input.remove(0, line.size());
-            element.setAttribute(names.at(choice % names.size()),
-                                 values.value(value, QString::fromUtf8(line)));
+            element.setAttribute(NAMES.at(choice % NAMES.size()),
+                                 VALUES.value(value, QString::fromUtf8(line)));
         }
     }
     return elements;
@@ -205,24 +202,21 @@ void readSizes(const QDomElement &element)
     }
 }
 
-void read(const QDomElement &element, const QDomElement &other)
-{
-    readIds(element);
-    readOptions(element, other);
-    const KTPageCountOrganization counts = KTPageCountOrganization::createFromProductsXML(element);
-    askPageCounts(counts, KTPageCountOrganization::createFromProductsXMLForPictureBox(other));
-    askPageCounts(KTPageCountOrganization::createFromProductsXMLForPictureBox(element), counts);
-    readSpine(element, other);
-    readBarcodes(element, other, KTXMLParser::attribute(element, QStringLiteral("units"), QString()));
-    readSizes(element);
-}
-
 } // namespace
 
 void KTFuzz::elements(const QByteArray &input)
 {
     QDomDocument document;
-    const QVector<QDomElement> elements = elementsOf(input, &document);
-    for (int i = 0; i < elements.size(); ++i)
-        read(elements.at(i), i == 0 ? QDomElement() : elements.at(i - 1));
+    QDomElement other;
+    for (const QDomElement &element : elementsOf(input, &document)) {
+        readIds(element);
+        readOptions(element, other);
+        const KTPageCountOrganization counts = KTPageCountOrganization::createFromProductsXML(element);
+        askPageCounts(counts, KTPageCountOrganization::createFromProductsXMLForPictureBox(other));
+        askPageCounts(KTPageCountOrganization::createFromProductsXMLForPictureBox(element), counts);
+        readSpine(element, other);
+        readBarcodes(element, other, KTXMLParser::attribute(element, QStringLiteral("units"), QString()));
+        readSizes(element);
+        other = element;
+    }
 }
