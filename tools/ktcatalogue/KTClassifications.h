@@ -40,8 +40,6 @@ public:
     QString unknownReadAs() const { return myUnknownReadAs(); }
     /** Every value with a keyword, in ascending order. */
     QVector<KTKeywordInfo> keywords() const { return myKeywords(); }
-    /** Every text that can be read, sorted, in lower case. */
-    QStringList readable() const;
 
 private:
     template <typename CLASS>
