@@ -18,14 +18,6 @@ CLASS withBits(qint64 bits)
     return CLASS(static_cast<Enum<CLASS>>(bits));
 }
 
-/** What is read from a keyword text: the bits, the keyword that is written, and those of the bits. */
-template <typename CLASS>
-QString readKeywords(const QString &keywords)
-{
-    const CLASS read(keywords);
-    return text(qint64(read.value()), read.encode(), read.encodeCSV());
-}
-
 /** The template "<t/>" with what the classification with these bits adds to it. */
 template <typename CLASS>
 QString templateOf(qint64 bits)

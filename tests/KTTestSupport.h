@@ -5,6 +5,7 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QString>
+#include <QTranslator>
 #include <QtTest>
 
 #include <cstddef>
@@ -76,6 +77,17 @@ std::tuple<COLUMNS...> row()
 {
     return Rows<COLUMNS...>::current();
 }
+
+/** Translates every text into its context and itself. */
+class EchoTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return QString::fromUtf8(context) + u'/' + QString::fromUtf8(text);
+    }
+};
 
 /** What an object looks like in the log. */
 template <typename T>

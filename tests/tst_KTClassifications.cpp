@@ -18,7 +18,6 @@
 #include <QCoreApplication>
 #include <QMap>
 #include <QSet>
-#include <QTranslator>
 #include <QVariant>
 
 namespace {
@@ -59,17 +58,6 @@ void check(int keywords, int values, qint64 unknown)
     QVERIFY(QVariant::fromValue(all).template value<CLASS>() == all);
 }
 
-/** Translates every text into its context and itself. */
-class KTEchoTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
-    {
-        return QString::fromUtf8(context) + u'/' + QString::fromUtf8(sourceText);
-    }
-};
-
 } // namespace
 
 class tst_KTClassifications : public QObject
@@ -77,48 +65,40 @@ class tst_KTClassifications : public QObject
     Q_OBJECT
 private Q_SLOTS:
     // The first test function, since the tables are built once per process.
-    void translatesOnFirstUse_data()
-    {
-        const KTTest::Rows<bool> row;
-        row("first use", true);
-        row("language changed", false);
-    }
     void translatesOnFirstUse()
     {
-        const auto [installed] = KTTest::row<bool>();
-        KTEchoTranslator translator;
-        if (installed)
-            QCoreApplication::installTranslator(&translator);
-        QStringList texts {KTCoverType(KTCoverTypeGift).humanReadableName(),
-                           KTCoverType().humanReadableName()};
-        texts << KTSpaceMagnitude(KTSpaceMagnitudeXL).humanReadableName()
-              << KTSpaceMagnitude(KTSpaceMagnitude600cm2).humanReadableName();
-        texts << KTPageBinding(KTPageBindingStapled).humanReadableName()
-              << KTDlpType(KTDlpTypeBackground).visibleName();
-        texts << KTPaperType(KTPaperTypeFotopaperGlossy).humanReadableName()
-              << KTPaperType().humanReadableName();
-        texts << KTFotoPaperType(KTFotoPaperTypeGlossy).humanReadableName()
-              << KTOrientation(KTOrientationSquare).humanReadable();
-        texts << KTPageAlignment(KTPageAlignmentMiddle).describe()
-              << KTCoverType(KTCoverTypeLeather).toolTip();
-        const KTTest::Text expected(
-            "KTBinding/|KTBinding/unbekannter Bindungstyp|KTSpaceMagnitude/Undefiniert|KTSpaceMagnitude/A4|"
-            "KTPageBinding/Rückstichbindung|KTDlpType/Hintergründe|KTPaperType/Fotopapier "
-            "Glänzend|KTPaperType/unbekannter Papiertyp|"
-            "KTFotoPaperType/Glänzend|KTOrientation/quadratische |KTPageAlignment/auf dem Buchrücken|"
-            "KTBinding/KTBinding/Der hochwertige Leder-Einband ist in verschiedenen Farben erhältlich.\n"
-            "KTBinding/Das Cover kann nur mit veredelten Elementen gestaltet werden.");
-        QCOMPARE(texts.join(u'|'), expected);
-        QVERIFY(KTOrientation().humanReadable().isNull());
-
-        QCOMPARE(KTArticleClass(KTArticleClassCard).toHumanReadable(),
-                 installed ? u"QObject/Gru\u00dfkarten"_s : u"Gru\u00dfkarten"_s);
-        QCOMPARE(KTCoverType::createFromHumanReadable(u"Leder"_s) == KTCoverTypeLeather, installed);
-        QCOMPARE(KTCoverType::createFromHumanReadable(QString()) == KTCoverTypeGift, installed);
-        QCOMPARE(KTSpaceMagnitude::createFromHumanReadable(u"A4"_s) == KTSpaceMagnitude600cm2, installed);
-        QCOMPARE(KTPaperType::createFromHumanReadable(u"Fotopapier Gl\u00e4nzend"_s)
-                     == KTPaperTypeFotopaperGlossy,
-                 installed);
+        KTTest::EchoTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        for (const bool installed : {true, false}) {
+            if (!installed)
+                QCoreApplication::removeTranslator(&translator);
+            const QString texts = KTTest::text(
+                KTCoverType(KTCoverTypeGift).humanReadableName(), KTCoverType().humanReadableName(),
+                KTCoverType(KTCoverTypeLeather).toolTip(),
+                KTSpaceMagnitude(KTSpaceMagnitudeXL).humanReadableName(),
+                KTPageBinding(KTPageBindingStapled).humanReadableName(),
+                KTDlpType(KTDlpTypeBackground).visibleName(), KTPaperType().humanReadableName(),
+                KTFotoPaperType(KTFotoPaperTypeGlossy).humanReadableName(),
+                KTOrientation(KTOrientationSquare).humanReadable(),
+                KTPageAlignment(KTPageAlignmentMiddle).describe());
+            const KTTest::Text expected(
+                "KTBinding/|KTBinding/unbekannter Bindungstyp|"
+                "KTBinding/KTBinding/Der hochwertige Leder-Einband ist in verschiedenen Farben erhältlich.\n"
+                "KTBinding/Das Cover kann nur mit veredelten Elementen gestaltet werden.|"
+                "KTSpaceMagnitude/Undefiniert|KTPageBinding/Rückstichbindung|KTDlpType/Hintergründe|"
+                "KTPaperType/unbekannter Papiertyp|KTFotoPaperType/Glänzend|KTOrientation/quadratische |"
+                "KTPageAlignment/auf dem Buchrücken");
+            QCOMPARE(texts, expected);
+            QCOMPARE(KTArticleClass(KTArticleClassCard).toHumanReadable(),
+                     installed ? u"QObject/Gru\u00dfkarten"_s : u"Gru\u00dfkarten"_s);
+            QCOMPARE(KTCoverType::createFromHumanReadable(u"Leder"_s) == KTCoverTypeLeather, installed);
+            QCOMPARE(KTCoverType::createFromHumanReadable(QString()) == KTCoverTypeGift, installed);
+            QVERIFY(KTCoverType::createFromHumanReadable(u"leder"_s).isNull());
+            QCOMPARE(KTSpaceMagnitude::createFromHumanReadable(u"A4"_s) == KTSpaceMagnitude600cm2, installed);
+            QCOMPARE(KTPaperType::createFromHumanReadable(u"Fotopapier Gl\u00e4nzend"_s)
+                         == KTPaperTypeFotopaperGlossy,
+                     installed);
+        }
     }
 
     void distanceUnit() { check<KTDistanceUnit>(5, 5, 0); }
@@ -135,6 +115,111 @@ private Q_SLOTS:
     void fotoPaperType() { check<KTFotoPaperType>(5, 3, 0); }
     void materialType() { check<KTMaterialType>(6, 6, 0); }
     void dlpType() { check<KTDlpType>(9, 9, 0); }
+
+    void coverTypesHaveToolTips()
+    {
+        // In the language of the first use.
+        const auto toolTip = [](const QString &text) { return KTCoverType(text).toolTip(); };
+        KTTest::check(
+            toolTip,
+            {"hard -> KTBinding/Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\n"
+             "Das Cover ist vollständig gestaltbar.",
+             "wall_calendar -> "
+             "KTBinding/Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\n"
+             "da die leere Seite zur Wand zeigt, und daher nicht gesehen werden kann.",
+             "calendar_annual_simplex -> "
+             "KTBinding/Ein großformatiger Einseitig bedruckter Jahreskalender gibt übersicht über das "
+             "gesamte Kalenderjahr.\nAlles auf einen Blick.",
+             "cromo -> "
+             "KTBinding/KTBinding/Der hochwertige Leinen-Einband ist in verschiedenen Farben erhältlich.\n"
+             "KTBinding/Das Cover kann nur mit veredelten Elementen gestaltet werden.",
+             "tacked -> KTBinding/Individuell gestaltbarer flexibler Einband mit Rückstichbindung.",
+             "wire-o -> KTBinding/unbekannter Bindungstyp",
+             "hard,soft -> KTBinding/unbekannter Bindungstyp"});
+        QCOMPARE(KTCoverType::bindingToolTips()->map.size(), 9);
+    }
+
+    void unionsHaveNoName()
+    {
+        QCOMPARE(KTPaperType(u"premium,glossy"_s).humanReadableName(),
+                 u"KTPaperType/unbekannter Papiertyp"_s);
+        QVERIFY(KTFotoPaperType(u"1,2"_s).humanReadableName().isEmpty());
+        const auto place = [](int bits) { return KTTest::withBits<KTPageAlignment>(bits).describe(); };
+        QVERIFY(place(0).isNull() && place(3).isNull() && !place(2).isNull());
+    }
+
+    void coverTypesAreGrouped()
+    {
+        using KTTest::bitsWhere;
+        QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isFullCover(); }), 19);
+        QCOMPARE(bitsWhere<KTCoverType>([](auto coverType) { return coverType.isSimplex(); }), 1952);
+        QVERIFY(KTCoverType(u"LEATHER,SOFT"_s).isFullCover());
+    }
+
+    void surfacesAreCodes()
+    {
+        const auto surfaces = [](const QString &text) {
+            QString codes;
+            for (const KTFotoPaperType &paper : KTFotoPaperType::createFromXTCI(text))
+                codes.append(paper.encodeForProduction());
+            return codes;
+        };
+        KTTest::check(surfaces,
+                      {"0 -> 12", "1 -> 1", " 2 -> 2", "3 -> ", "-1 -> ", "0x1 -> ", "matt -> ", " -> "});
+        QVERIFY(KTFotoPaperType().encodeForProduction().isEmpty());
+        const auto isGlossy = [](const KTArticleClass &articleClass) {
+            return KTFotoPaperType::defaultFor(articleClass) == KTFotoPaperTypeGlossy;
+        };
+        QCOMPARE(KTTest::bitsWhere<KTArticleClass>(isGlossy), 0x38000);
+        QVERIFY(KTFotoPaperType::defaultFor(KTArticleClassPhoto).isNull());
+        QVERIFY(KTFotoPaperType::defaultFor(u"foto,book"_s).isNull());
+    }
+
+    void contentHasDirectories()
+    {
+        // The directory without and with the flag, what is queried, the description.
+        const auto answers = [](int bits) {
+            const auto dlpType = KTTest::withBits<KTDlpType>(bits);
+            return KTTest::text(dlpType.dlpPath(false), dlpType.dlpPath(true), dlpType.queryValue(),
+                                dlpType.describe());
+        };
+        KTTest::check<int>(
+            answers,
+            {"0x1 -> backgrounds|backgrounds|background|1 | background",
+             "0x4 -> predefined_projects|templates|template|4 | template",
+             "0x10 -> cliparts|cliparts|mask|16 | mask",
+             "0x20 -> layoutcollections|layoutcollections|layoutcollection|32 | layoutcollection",
+             "0x80 -> form_parameter_data|form_parameter_data|form_parameter_data|128 | "
+             "form_parameter_data",
+             "0x40 -> ||style_v2|64 | storybook", "0x202 -> styles|styles|style_v2|514 | ",
+             "0x200 -> |||512 | ", "0x248 -> ||style_v2|584 | ", "0x18 -> |||24 | "});
+        QVERIFY(KTDlpType(KTDlpTypeLayoutcollection).visibleName().isEmpty());
+    }
+
+    void alignmentNamesProductionFiles()
+    {
+        // The path for pages apart and together, after the bits and the path.
+        const auto paths = [](const QString &input) {
+            const auto alignment = KTTest::withBits<KTPageAlignment>(input.section(u' ', 0, 0).toInt());
+            const QString path = input.section(u' ', 1);
+            return KTTest::text(alignment.modifyProductionPath(path, true),
+                                alignment.modifyProductionPath(path, false));
+        };
+        KTTest::check(
+            paths,
+            {"1 /out/a.pDf.d/b.PDF -> /out/a_left.pdf.d/b_left.pdf|/out/a_center.pdf.d/b_center.pdf",
+             "2 b.pdf -> b_right.pdf|b_center.pdf", "3 b.pdf -> b_center.pdf|b_center.pdf",
+             "32 b.pdf -> b_center.pdf|b_center.pdf", "1 bpdf -> bpdf|bpdf"});
+    }
+
+    void templatesNameUncommonBindings()
+    {
+        // Bits without a name are written too.
+        KTTest::check<qint64>(KTTest::templateOf<KTPageBinding>,
+                              {"0 -> <t/>", "1 -> <t/>", "2 -> <t/>", "12 -> <t/>",
+                               "8 -> <t><pageBinding>spiral</pageBinding></t>",
+                               "24 -> <t><pageBinding>spiral, </pageBinding></t>"});
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_KTClassifications)

@@ -33,12 +33,8 @@ private Q_SLOTS:
         QCOMPARE(KTOrientation::createFromPageTilt(90).value(), KTOrientationPortrait);
     }
 
-    void readsAndWritesKeywords()
+    void writesTemplate()
     {
-        KTTest::check(KTTest::readKeywords<KTOrientation>,
-                      {"landscape_large -> 2|landscape|landscape", "quadratic -> 4|square|square",
-                       "square,landscape -> 6|portrait|landscape, square", "bock -> 0|portrait|portrait",
-                       "all -> 31|all|portrait, landscape, square, portrait_slim, landscape_slim"});
         KTTest::check<int>(
             KTTest::templateOf<KTOrientation>,
             {"31 -> <t/>", "0 -> <t/>",
@@ -51,16 +47,17 @@ private Q_SLOTS:
         const auto answers = [](int bits) {
             const auto format = KTTest::withBits<KTOrientation>(bits);
             const QString adjective = format.humanReadable();
-            return KTTest::text(format.encodeForDLP(), format.foldMargin(1000), format.foldMargin(-1000),
+            return KTTest::text(format.encodeForDLP(), format.foldMargin(100000), format.foldMargin(-100000),
                                 format.defaultWidthHeightRatio(), adjective.isNull() ? u"none"_s : adjective);
         };
-        KTTest::check<int>(answers,
-                           {"0 -> portrait|53|-54|1|none", "1 -> portrait|53|-54|0.666666|Hochkant-",
-                            "8 -> portrait|53|-54|0.5|schlanke Hochkant-", "9 -> portrait|53|-54|1|none",
-                            "31 -> portrait|53|-54|1|none", "2 -> landscape|40|-41|1.5|Panorama-",
-                            "16 -> landscape|40|-41|2|schlanke Panorama-", "18 -> landscape|40|-41|1|none",
-                            "4 -> square|44|-45|1|quadratische ", "3 -> portrait|0|0|1|none",
-                            "24 -> portrait|0|0|1|none", "33 -> portrait|0|0|1|none"});
+        KTTest::check<int>(
+            answers,
+            {"0 -> portrait|5365|-5366|1|none", "1 -> portrait|5365|-5366|0.666666|Hochkant-",
+             "8 -> portrait|5365|-5366|0.5|schlanke Hochkant-", "9 -> portrait|5365|-5366|1|none",
+             "31 -> portrait|5365|-5366|1|none", "2 -> landscape|4074|-4075|1.5|Panorama-",
+             "16 -> landscape|4074|-4075|2|schlanke Panorama-", "18 -> landscape|4074|-4075|1|none",
+             "4 -> square|4487|-4488|1|quadratische ", "3 -> portrait|0|0|1|none",
+             "24 -> portrait|0|0|1|none", "33 -> portrait|0|0|1|none"});
         using KTTest::bitsWhere;
         QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isPortrait(); }), 9);
         QCOMPARE(bitsWhere<KTOrientation>([](auto format) { return format.isLandscape(); }), 18);
