@@ -22,15 +22,22 @@ public:
         int line;
     };
 
-    KTMessageRecorder();
-    ~KTMessageRecorder();
+    KTMessageRecorder()
+        : myPreviousHandler(qInstallMessageHandler(&KTMessageRecorder::record))
+    {
+        ourMessages.clear();
+    }
+    ~KTMessageRecorder() { qInstallMessageHandler(myPreviousHandler); }
     Q_DISABLE_COPY(KTMessageRecorder)
 
-    const QVector<Message> &messages() const { return myMessages; }
+    const QVector<Message> &messages() const { return ourMessages; }
 
 private:
-    static void record(QtMsgType type, const QMessageLogContext &context, const QString &text);
+    static void record(QtMsgType type, const QMessageLogContext &context, const QString &text)
+    {
+        ourMessages.append({type, text, context.category, context.file, context.function, context.line});
+    }
 
+    static inline QVector<Message> ourMessages;
     QtMessageHandler myPreviousHandler;
-    QVector<Message> myMessages;
 };

@@ -118,16 +118,6 @@ QString text(const VALUES &...values)
     return texts.join(QLatin1Char('|'));
 }
 
-/** The texts of the answers to each of the inputs, with blanks between them. */
-template <typename INPUT = QString, typename FUNCTION>
-QString each(std::initializer_list<Cell<INPUT>> inputs, FUNCTION answer)
-{
-    QStringList texts;
-    for (const Cell<INPUT> &input : inputs)
-        texts.append(text(answer(input)));
-    return texts.join(QLatin1Char(' '));
-}
-
 /** A text as an INPUT; whole numbers may be hexadecimal. */
 template <typename INPUT>
 INPUT fromText(const QString &text)

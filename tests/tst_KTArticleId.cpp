@@ -16,7 +16,8 @@ private Q_SLOTS:
             const QDomElement element = KTTest::element(u"<a %1/>"_s.arg(attributes));
             const bool areSame
                 = KTArticleId::fromIdAttribute(element) == KTArticleId::fromIdAttribute(element.attributes())
-                && KTArticleId::fromArtIdAttribute(element) == KTArticleId(element.attributes(), u"art_id"_s);
+                && KTArticleId::fromArtIdAttribute(element)
+                    == KTArticleId::fromArtIdAttribute(element.attributes());
             return KTTest::text(KTArticleId::findId(element).id(),
                                 KTArticleId::fromArticleIdAttribute(element.attributes()).id(), areSame);
         };
@@ -30,14 +31,12 @@ private Q_SLOTS:
     {
         const auto read = [](const QString &json) {
             const QJsonObject object = QJsonDocument::fromJson(json.toUtf8()).object();
-            const QJsonObject other {
-                {u"k"_s, object.value(KTArticleId::defaultKey())}
-            };
-            return KTTest::text(KTArticleId(object).id(), KTArticleId(other, u"k"_s).id());
+            return KTTest::text(KTArticleId(object).id(), KTArticleId(object, u"k"_s).id());
         };
         KTTest::check(read,
-                      {"{\"id\": 17} -> 17|17", "{\"id\": 17.0} -> 17|17", "{\"id\": 12.5} -> 0|0",
-                       "{\"id\": \"12\"} -> 0|0", "{\"id\": 2147483648} -> 0|0", "{\"ID\": 1} -> 0|0"});
+                      {"{\"id\": 17, \"k\": 18.0} -> 17|18", "{\"id\": 12.5, \"k\": \"12\"} -> 0|0",
+                       "{\"id\": 2147483648} -> 0|0"});
+        QCOMPARE(KTArticleId::defaultKey(), u"id"_s);
     }
 
     void writes()
@@ -63,13 +62,14 @@ private Q_SLOTS:
         const auto facts = [](int number) {
             const KTArticleId id(number);
             return KTTest::text(id.isFotoWithoutVariableLength(), id.isAdventCalendarWithDoorBackPrint(),
-                                id.isValid(), qHash(id, 5u) == (uint(number) ^ 5u));
+                                id.isValid());
         };
         KTTest::check<int>(facts,
-                           {"9023 -> -|-|+|+", "9024 -> +|-|+|+", "9025 -> +|-|+|+", "9026 -> +|-|+|+",
-                            "9027 -> -|-|+|+", "6321 -> -|-|+|+", "6322 -> -|+|+|+", "6323 -> -|+|+|+",
-                            "6324 -> -|-|+|+", "6512 -> -|-|+|+", "6513 -> -|+|+|+", "6514 -> -|+|+|+",
-                            "6515 -> -|-|+|+", "0 -> -|-|-|+", "-9024 -> -|-|-|+"});
+                           {"9023 -> -|-|+", "9024 -> +|-|+", "9025 -> +|-|+", "9026 -> +|-|+",
+                            "9027 -> -|-|+", "6321 -> -|-|+", "6322 -> -|+|+", "6323 -> -|+|+",
+                            "6324 -> -|-|+", "6512 -> -|-|+", "6513 -> -|+|+", "6514 -> -|+|+",
+                            "6515 -> -|-|+", "0 -> -|-|-", "-1 -> -|-|-"});
+        QCOMPARE(qHash(KTArticleId(-8), 5u), uint(-8) ^ 5u);
     }
 
     void extendsSets()

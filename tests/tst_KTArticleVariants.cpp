@@ -46,9 +46,9 @@ private Q_SLOTS:
             return KTTest::text(pairs(KTArticleVariants(text)),
                                 pairs(KTArticleVariants::createFromMCF(text)));
         };
-        QCOMPARE(KTTest::each({"k:v", "k|v", "k+v", "k", "a:b+c", "a::b", "", ":v"}, read),
-                 u"k=v|k=v k=v|k=v k=v|k=v | | | | =v|=v"_s);
-        KTTest::check(read, {"a:1,,oops, -> a=1,,oops,|a=1", "a:white,a|black -> |a=black"});
+        KTTest::check(read,
+                      {"k:v -> k=v|k=v", "k|v -> k=v|k=v", "k+v -> k=v|k=v", "k -> |", "a:b+c -> |", " -> |",
+                       ":v -> =v|=v", "a:1,,oops, -> a=1,,oops,|a=1", "a:white,a|black -> |a=black"});
     }
 
     void readsJsonAndElements()
@@ -124,7 +124,6 @@ private Q_SLOTS:
     {
         KTArticleVariants variants = KTArticleVariants::blackCFBGiftBox();
         const KTArticleVariants copy = variants;
-        QCOMPARE(variants.hash(), copy.hash());
         variants.insert(KTArticleVariants(KTArticleVariants::coverColorKeyName(), u"red"_s));
         variants.insert(KTArticleVariants::cfbGiftBoxColorKeyName(), u"white"_s);
         QVERIFY(variants != copy && variants.hasCoverColor() && !variants.hasFlyLeafColor()

@@ -2,8 +2,6 @@
 
 #include "KTTestSupport.h"
 
-using KTAmounts = QMap<KTPriceClass, int>;
-
 class tst_KTModelAddOnStatistic : public QObject
 {
     Q_OBJECT
@@ -30,18 +28,15 @@ private Q_SLOTS:
 
     void keepsAddOnsApart()
     {
-        const KTContentStatistic content(0, 0, KTAmounts());
-        KTModelAddOnStatistic statistic(content);
-        QCOMPARE(statistic.videoAddOn().toString(), u"VDO1"_s);
-        statistic = KTModelAddOnStatistic(content, KTPriceClass(), u"FOP1"_s);
-        QVERIFY(statistic.videoAddOn().isEmpty() && statistic.flyLeafAddOn().isEmpty());
-        const KTArticleVariants variants(u"flyleafcolor:red"_s);
-        statistic.setFlyLeafAddOn(u"FLF1"_s, variants);
+        const KTContentStatistic content(0, 0, QMap<KTPriceClass, int>());
+        QCOMPARE(KTModelAddOnStatistic(content).videoAddOn().toString(), u"VDO1"_s);
+        KTModelAddOnStatistic statistic(content, KTPriceClass(), u"FOP1"_s);
+        statistic.setFlyLeafAddOn(u"FLF1"_s, KTArticleVariants(u"flyleafcolor:red"_s));
         statistic.setDesignStyleAddOns({u"91"_s});
-        QVERIFY(statistic.flyLeafVariants() == variants);
-        QCOMPARE(statistic.flyLeafAddOn().toString() + statistic.spotColorAddOn().toString()
-                     + statistic.designStyleAddOns().toString(),
-                 u"FLF1FOP191"_s);
+        QCOMPARE(KTTest::text(statistic.videoAddOn().toString(), statistic.spotColorAddOn().toString(),
+                              statistic.flyLeafAddOn().toString(), statistic.flyLeafVariants(),
+                              statistic.designStyleAddOns().toString()),
+                 u"|FOP1|FLF1|flyleafcolor = red|91"_s);
     }
 };
 
