@@ -8,6 +8,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <initializer_list>
@@ -161,6 +162,12 @@ inline void runInThreads(int count, const std::function<void(int)> &function)
         threads.emplace_back(function, i);
     for (std::thread &thread : threads)
         thread.join();
+}
+
+/** Holds a thread up where others should come along if no lock keeps them out. */
+inline void linger()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
 }
 
 /** The document element of an XML text. */

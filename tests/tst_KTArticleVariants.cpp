@@ -78,11 +78,22 @@ private Q_SLOTS:
                        "c;a=1;2/b=3 -> b:3,c;a:1;2|a:2;b:3;c:1|a=2/b=3/c=1", "a;b=1 -> a;b:1||",
                        "a;;b=;1;2 -> a;;b:;1;2|a:1;b:2|a=1/b=2", "alcolor= -> ||", "=black -> ||",
                        ";=;; -> ;:;;||", "a%2=b -> ab:b|ab:b|a%2=b", " -> ||"});
+        const QString longValue(2000000, u'x');
+        QCOMPARE(variants(u"a%2="_s + longValue).toMCF(), u'a' + longValue + u':' + longValue);
         // A key that would multiply its value without bound is left as it is.
         const QString key = u"%2"_s.repeated(65536);
         const QString value(65536, u'x');
         const QString unfilled = key + u':' + value;
         QCOMPARE(written(key + u'=' + value), KTTest::text(unfilled, unfilled, QString(key + u'=' + value)));
+    }
+
+    void joinsUnderAnotherHashSeed()
+    {
+        KTArticleVariants first = variants(u"a=1"_s);
+        qSetGlobalQHashSeed(0);
+        first.insert(variants(u"a=2/b=3"_s));
+        first.insert(first);
+        QCOMPARE(pairs(first), u"a=2/b=3"_s);
     }
 
     void survivesMCF()

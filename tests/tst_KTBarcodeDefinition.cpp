@@ -181,6 +181,12 @@ private Q_SLOTS:
         definitions.updateDefinitions(update);
         QCOMPARE(definitions, update);
         QCOMPARE(definitions.occupiedRegion().rectCount(), 10000);
+        definitions.clear();
+        for (int i = 0; i < 2000; ++i) {
+            definitions.prepend(definition(QRect(2 * i, 0, 1, 1), 0));
+            definitions.append(definition(QRect(0, 2 * i, 1, 1), 0));
+        }
+        QCOMPARE(definitions.occupiedRegion().rectCount(), 3999);
 
         // Bars that cross would make millions of pieces.
         KTBarcodeDefinitionList bars;

@@ -34,6 +34,7 @@ public:
         if (++fillCount == 1)
             throw std::runtime_error("not yet");
         table->insert(u"a"_s, KTToyA);
+        KTTest::linger();
         table->insert(u"b"_s, KTToyB);
     }
 

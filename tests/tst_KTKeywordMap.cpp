@@ -30,6 +30,14 @@ class tst_KTKeywordMap : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void takesItsOwnEntries()
+    {
+        KTKeywordMap<KTSampleEnum, QString> map;
+        for (int i = 0; i < 100; ++i)
+            map.insert(KTSampleEnum(i), map.isEmpty() ? QString(8, u'x') : map.begin()->value);
+        QCOMPARE(map.value(KTSampleEnum(99)), QString(8, u'x'));
+    }
+
     void readsAsQHash()
     {
         QRandomGenerator random(54);

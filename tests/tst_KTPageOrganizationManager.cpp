@@ -100,6 +100,7 @@ private Q_SLOTS:
     {
         KTPageOrganizationManager manager;
         auto *const calculator = new Calculator;
+        calculator->beforeFirst = &KTTest::linger;
         manager.setCalculator(calculator);
         std::vector<KTPageCountOrganization *> seen[4];
         KTTest::runInThreads(4, [&](int thread) {

@@ -3,6 +3,22 @@
 
 #include "KTTestSupport.h"
 
+#include <cstdlib>
+
+namespace {
+
+/** Asks when all that is made on first use would have been destroyed again. */
+const struct KTLastWord
+{
+    ~KTLastWord()
+    {
+        if (KTPriceClassSet::maps().isEmpty())
+            std::abort();
+    }
+} LAST_WORD;
+
+} // namespace
+
 class tst_KTPriceClassSet : public QObject
 {
     Q_OBJECT

@@ -13,6 +13,7 @@ public:
     {
         if (++constructions == 1)
             throw std::runtime_error("not yet");
+        KTTest::linger();
     }
     void setupInstance() override { ++setups; }
 

@@ -2,6 +2,7 @@
 #include <KTXMLBuilder.h>
 #include <KTXMLParser.h>
 
+#include "KTMessageRecorder.h"
 #include "KTTestSupport.h"
 
 class tst_KTXML : public QObject
@@ -55,8 +56,12 @@ private Q_SLOTS:
 
     void warnsOfUnknownUnit()
     {
-        QTest::ignoreMessage(QtWarningMsg, "distance not supported! 3");
+        const KTMessageRecorder recorder;
         QCOMPARE(KTDistanceUnit(static_cast<KTDistanceUnitEnum>(3)).units2Pixels(2.5), 2.5);
+        QCOMPARE(recorder.messages().size(), 1);
+        const KTMessageRecorder::Message message = recorder.messages().first();
+        QCOMPARE(message.text, u"distance not supported! 3"_s);
+        QCOMPARE(message.file, QByteArray("libs/KTCore/KTDistanceUnit"));
     }
 
     void buildsChildren()

@@ -22,11 +22,11 @@ constexpr KTStringLiteral AGENDAS[] = {"CAL29", "CAL30"};
 
 constexpr QChar ALBUM_INITIAL = u'A';
 
-/** Finds an album family anywhere in a code; never freed, because destructors may ask at the end. */
+/** Finds an album family anywhere in a code; a function, because product types are made during start-up. */
 const QRegularExpression &bookRegExp()
 {
-    static const auto *const myBookRegExp = new QRegularExpression(QStringLiteral("((ALB|ALBS)\\d+).*"));
-    return *myBookRegExp;
+    static const QRegularExpression myBookRegExp(QStringLiteral("((ALB|ALBS)\\d+).*"));
+    return myBookRegExp;
 }
 
 QString normalised(const QString &code)

@@ -19,7 +19,8 @@ class KTPRODUCTBASE_EXPORT KTProductType
 public:
     /**
      * A code that begins with "A" and contains "ALB" or "ALBS" with ASCII digits behind is shortened to the
-     * first such place. Any other code, and one that is not valid UTF-16, stays as it is.
+     * first such place. Any other code, and one that is not valid UTF-16, stays as it is. A code with "A" can
+     * be read until main() returns, as Qt's regular expressions can.
      */
     KTProductType(const QString &code);
     // Declared so that there is no move, which would leave behind a hash without its code.
