@@ -104,6 +104,9 @@ private Q_SLOTS:
             registry.registerChecker(checker);
         QVERIFY(registry.isValid(productType(1), FIRST));
         QVERIFY(sending.asked == 1 && sent.asked == 0);
+        // An answer from before the change is not remembered.
+        QVERIFY(registry.isValid(productType(1), FIRST));
+        QVERIFY(sending.asked == 2 && leaving.asked == 1);
     }
 
     void survivesThrowingChecker()
