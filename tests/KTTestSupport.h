@@ -8,6 +8,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <functional>
@@ -154,12 +155,18 @@ QByteArray streamed(const T &object)
     return written.toHex();
 }
 
-/** Calls the function with the numbers from 0 on, all in their own threads. */
+/** Calls the function with the numbers from 0 on, all at once in their own threads. */
 inline void runInThreads(int count, const std::function<void(int)> &function)
 {
+    std::atomic<int> missing {count};
     std::vector<std::thread> threads;
-    for (int i = 0; i < count; ++i)
-        threads.emplace_back(function, i);
+    for (int i = 0; i < count; ++i) {
+        threads.emplace_back([&, i] {
+            for (--missing; missing > 0;)
+                std::this_thread::yield();
+            function(i);
+        });
+    }
     for (std::thread &thread : threads)
         thread.join();
 }

@@ -8,7 +8,6 @@
 #include <functional>
 #include <limits>
 #include <stdexcept>
-#include <thread>
 
 namespace {
 
@@ -127,7 +126,6 @@ private Q_SLOTS:
         constexpr int TYPES = 200;
         KTProductCheckerRegistry *const registry = KTProductCheckerRegistry::instance();
         for (const int threadCount : {2, 8}) {
-            std::atomic<int> waiting {threadCount};
             std::atomic<int> objections {0};
             KTTestChecker checker;
             checker.answer = [&](const KTProductType &type) {
@@ -138,8 +136,6 @@ private Q_SLOTS:
             };
             registry->registerChecker(&checker);
             KTTest::runInThreads(threadCount, [&](int) {
-                for (--waiting; waiting > 0;)
-                    std::this_thread::yield();
                 for (int number = TYPES - 1; number >= 0; --number)
                     objections += registry->isValid(productType(number), FIRST) ? 0 : 1;
             });

@@ -39,7 +39,7 @@ public:
 
     /**
      * The answer, from memory where the question was asked before. When a checker throws, so does this, and
-     * nothing is remembered.
+     * nothing is remembered; nor is it when a checker has changed the registration or cleared the caches.
      */
     bool isValid(const KTProductType &type, KTProductCheckerType checkerType) const;
     /** The answer without memory and without lock. */
