@@ -129,8 +129,7 @@ void KTArticleVariants::insert(const QString &key, const QString &value)
 
 void KTArticleVariants::insert(const KTArticleVariants &other)
 {
-    // One by one: QHash takes over the other's hashes, which differ when the application has set another
-    // seed.
+    // One by one: QHash would keep the other's hashes, which another seed of the application makes wrong.
     const QHash<QString, QString> added = other.myVariants;
     for (auto pair = added.begin(); pair != added.end(); ++pair)
         myVariants.insert(pair.key(), pair.value());
