@@ -78,6 +78,8 @@ private Q_SLOTS:
                        "c;a=1;2/b=3 -> b:3,c;a:1;2|a:2;b:3;c:1|a=2/b=3/c=1", "a;b=1 -> a;b:1||",
                        "a;;b=;1;2 -> a;;b:;1;2|a:1;b:2|a=1/b=2", "alcolor= -> ||", "=black -> ||",
                        ";=;; -> ;:;;||", "a%2=b -> ab:b|ab:b|a%2=b", " -> ||"});
+        const QString longKey = u"%2"_s.repeated(200);
+        QCOMPARE(variants(longKey + u"=b"_s).toMCF(), QString(200, u'b') + u":b"_s);
         const QString longValue(2000000, u'x');
         QCOMPARE(variants(u"a%2="_s + longValue).toMCF(), u'a' + longValue + u':' + longValue);
         // A key that would multiply its value without bound is left as it is.

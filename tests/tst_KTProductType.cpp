@@ -93,14 +93,15 @@ private Q_SLOTS:
         KTProductTypeList list(u"B,,B,UNKNOWN"_s.split(QLatin1Char(',')));
         list.addWithoutDoubles(list);
         list.addWithoutDoubles(KTProductTypeList::buildFromCSV(u"ALB9_3, B,,ALB9_2,B"_s));
-        list.addWithoutDoubles(KTProductType(u"UNKNOWN"_s));
+        for (const QString &code : {u"UNKNOWN"_s, u"C"_s})
+            list.addWithoutDoubles(KTProductType(code));
         QVERIFY(recorder.messages().isEmpty());
-        QCOMPARE(KTTest::logged(list), u"(\"B\", \"B\", \"UNKNOWN\", \"ALB9\", \" B\") "_s);
+        QCOMPARE(KTTest::logged(list), u"(\"B\", \"B\", \"UNKNOWN\", \"ALB9\", \" B\", \"C\") "_s);
         // Refused first of all, so even where the list has one already.
         list.append(KTProductType(QString()));
         list.addWithoutDoubles(KTProductType(QString()));
         list.addWithoutDoubles(list);
-        QCOMPARE(list.size(), 6);
+        QCOMPARE(list.size(), 7);
         QCOMPARE(recorder.messages().size(), 2);
         const KTMessageRecorder::Message message = recorder.messages().first();
         QCOMPARE(message.text, u"there is no \"UNKNOWN\""_s);
