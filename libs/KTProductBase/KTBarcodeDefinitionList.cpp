@@ -129,13 +129,23 @@ qint64 piecesOf(const QVector<Band> &bands, const QVector<Band> &others)
     return pieces;
 }
 
+/** How many rectangles the union has at most. */
+qint64 mostPieces(const QRegion &first, const QRegion &second)
+{
+    // Two edges of each rectangle may cut each other one; for most unions that is few enough already.
+    const qint64 crossings = 4 * qint64(first.rectCount()) * second.rectCount();
+    if (crossings <= MOST_PIECES)
+        return crossings;
+    const QVector<Band> firstBands = bandsOf(first);
+    const QVector<Band> secondBands = bandsOf(second);
+    return piecesOf(firstBands, secondBands) + piecesOf(secondBands, firstBands);
+}
+
 /** The union; the rectangle around it when bars that cross would cut it into too many pieces to hold. */
 QRegion united(const QRegion &first, const QRegion &second)
 {
-    const QVector<Band> firstBands = bandsOf(first);
-    const QVector<Band> secondBands = bandsOf(second);
-    const qint64 mostPieces = piecesOf(firstBands, secondBands) + piecesOf(secondBands, firstBands);
-    return mostPieces > MOST_PIECES ? QRegion(first.boundingRect() | second.boundingRect()) : first | second;
+    return mostPieces(first, second) > MOST_PIECES ? QRegion(first.boundingRect() | second.boundingRect())
+                                                   : first | second;
 }
 
 /** Halving keeps the number of regions that a rectangle is merged into logarithmic. */
