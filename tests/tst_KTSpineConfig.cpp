@@ -95,16 +95,16 @@ private Q_SLOTS:
     void choosesTheFontSize_data()
     {
         const KTTest::Rows<QList<int>, double, int> row;
-        // Base widths of which, with two blocks, the printable share is just the line of 20 points, or less.
-        const int line = QFontMetrics(QFont(QFont().family(), 20)).lineSpacing();
+        // Base widths of which, with two blocks, the printable share is just the line of 200 points, or less.
+        const int line = QFontMetrics(QFont(QFont().family(), 200)).lineSpacing();
         const double fits = line / 0.85 - 10.0;
         const double fitsNot = (line - 0.6) / 0.85 - 10.0;
         row("no sizes", {}, fits, 0);
         row("one size is never measured", {400}, 0.0, 400);
-        row("fits exactly", {10, 15, 20, 40}, fits, 20);
-        row("just too tall", {10, 15, 20, 40}, fitsNot, 15);
-        row("all fit", {10, 15, 20}, 1000.0, 20);
-        row("the first too tall one ends it", {10, 40, 20}, fits, 10);
+        row("fits exactly", {10, 15, 200, 400}, fits, 200);
+        row("just too tall", {10, 15, 200, 400}, fitsNot, 15);
+        row("all fit", {10, 15, 200}, 1000.0, 200);
+        row("the first too tall one ends it", {10, 400, 200}, fits, 10);
         row("sizes that are none", {-5, 0, INT_MAX}, fits, 0);
     }
     void choosesTheFontSize()
