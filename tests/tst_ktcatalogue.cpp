@@ -157,6 +157,7 @@ private Q_SLOTS:
         row("- --fail-on=error --quiet", warning, 0, "warning: ", "");
         row("- --fail-on=never --quiet", article("pages='0'>"), 0, "error: ", "");
         row("- --pedantic --quiet", hint, 1, "warning: ", "");
+        row("- --pedantic --fail-on=error --quiet", warning, 1, "error: ", "");
         row("- --ignore=unknown-price-class --fail-on=hint", hint, 0, "",
             "-: nothing found\ntotal: nothing found\n");
         row("- --error=unknown-price-class --fail-on=error --quiet", hint, 1, "error: ", "");
