@@ -9,6 +9,8 @@
 #include <QRandomGenerator>
 #include <QRegion>
 
+#include <cstdlib>
+
 using KTTest::toInt;
 using KTTest::Wide;
 
@@ -19,6 +21,27 @@ constexpr char dummy[] = "dummy-barcode.png";
 KTBarcodeDefinition definition(const QRect &rect, int pageNr = 0, const char *imageName = "i")
 {
     return KTBarcodeDefinition(rect, pageNr, QString::fromUtf8(imageName));
+}
+
+/** Asks for an image when Qt can load none any more. */
+const struct LastWord
+{
+    ~LastWord()
+    {
+        if (!definition(QRect(), 0, dummy).image().isNull())
+            std::abort();
+    }
+} LAST_WORD;
+
+/** An icon file whose directory says that the picture, a PNG image, has 16 x 16 pixels. */
+QByteArray icon(const QByteArray &png)
+{
+    QByteArray file;
+    QDataStream stream(&file, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << quint16(0) << quint16(1) << quint16(1) << quint8(16) << quint8(16) << quint16(0) << quint16(1)
+           << quint16(32) << quint32(png.size()) << quint32(22);
+    return file + png;
 }
 
 KTBarcodeDefinitionList list(std::initializer_list<KTBarcodeDefinition> definitions)
@@ -207,10 +230,18 @@ private Q_SLOTS:
         config->setResourceRoot(folder.path());
         const QDir icons(folder.filePath(u"icons/picshelf"_s));
         QVERIFY(icons.mkpath(u"."_s));
+        const auto write = [&icons](const QString &name, const QByteArray &bytes) {
+            QFile file(icons.filePath(name));
+            return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        };
         const auto save = [&icons](const QString &name, const QSize &size) {
             QImage image(size, QImage::Format_Mono);
             image.fill(1);
             return image.save(icons.filePath(name), "PNG");
+        };
+        const auto saveIcon = [&](const QString &name, const QString &picture) {
+            QFile file(icons.filePath(picture));
+            return file.open(QIODevice::ReadOnly) && write(name, icon(file.readAll()));
         };
         const KTMessageRecorder recorder;
         const KTBarcodeDefinition late = definition(QRect(0, 0, 1, 1), 0, "late.png");
@@ -226,12 +257,13 @@ private Q_SLOTS:
         QVERIFY(save(u"most.png"_s, QSize(8000, 8000)));
         QVERIFY(save(u"more.png"_s, QSize(8000, 8001)));
         QVERIFY(save(u"../outside.png"_s, QSize(3, 4)));
-        QFile noImage(icons.filePath(u"none.png"_s));
-        QVERIFY(noImage.open(QIODevice::WriteOnly) && noImage.write("none") == 4);
-        noImage.close();
-        QCOMPARE(definition(QRect(), 0, "most.png").image().size(), QSize(8000, 8000));
-        for (const char *const name : {"more.png", "none.png", "../outside.png", ".", ""})
-            QVERIFY(definition(QRect(), 0, name).image().isNull());
+        QVERIFY(write(u"none.png"_s, "none") && write(u"none.ico"_s, icon("none")));
+        QVERIFY(saveIcon(u"most.ico"_s, u"most.png"_s) && saveIcon(u"more.ico"_s, u"more.png"_s));
+        for (const char *const name : {"most.png", "most.ico"})
+            QCOMPARE(definition(QRect(), 0, name).image().size(), QSize(8000, 8000));
+        for (const char *const name :
+             {"more.png", "more.ico", "none.png", "none.ico", "../outside.png", ".", ""})
+            QVERIFY2(definition(QRect(), 0, name).image().isNull(), name);
         QVERIFY(recorder.messages().isEmpty());
         config->setResourceRoot(root);
     }

@@ -1,5 +1,6 @@
 #include <KTDirectoryConfig.h>
 
+#include "KTMessageRecorder.h"
 #include "KTTestSupport.h"
 
 #include <sys/stat.h>
@@ -52,8 +53,28 @@ private Q_SLOTS:
         const QString name = u"icons/picshelf/dummy-barcode.png"_s;
         const QString found = KTDirectoryConfig::instance()->resource(name, false);
         QVERIFY2(found.endsWith(u"share/KTProductBase/"_s + name), qPrintable(found));
-        qputenv("KTPRODUCTBASE_RESOURCES", QFile::encodeName(path("root")));
-        QCOMPARE(KTDirectoryConfig().resourceRoot(), path("root"));
+        // What the root has not comes from the installed folder, also where there is no root.
+        KTDirectoryConfig other;
+        for (const QString &root : {path("root"), path("missing"), QString()}) {
+            other.setResourceRoot(root);
+            QCOMPARE(other.resource(name, false), found);
+        }
+        QVERIFY(QDir(path("root")).mkpath(u"icons/picshelf"_s) && QFile::copy(found, path("root/") + name));
+        // A relative root stays where it was.
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(path("")));
+        other.setResourceRoot(u"./root"_s);
+        qputenv("KTPRODUCTBASE_RESOURCES", "root");
+        const KTDirectoryConfig relative;
+        QVERIFY(QDir::setCurrent(before));
+        for (const KTDirectoryConfig *const config : {&relative, &std::as_const(other)}) {
+            QCOMPARE(config->resourceRoot(), path("root"));
+            QCOMPARE(config->resource(name, false), path("root/") + name);
+        }
+        qputenv("KTPRODUCTBASE_RESOURCES", QFile::encodeName(path("root/plain.png")));
+        const KTMessageRecorder recorder;
+        QCOMPARE(KTDirectoryConfig().resource(name, false), found);
+        QCOMPARE(recorder.messages().size(), 1);
         // Files may lie right below the file system's root.
         KTDirectoryConfig config;
         config.setResourceRoot(u"/"_s);

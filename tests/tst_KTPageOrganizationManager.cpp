@@ -67,6 +67,21 @@ private Q_SLOTS:
         QCOMPARE(first->minPages(), 7);
     }
 
+    void livesInTheThreadOfTheApplication()
+    {
+        KTPageOrganizationManager *manager = nullptr;
+        auto *const calculator = new Calculator;
+        KTTest::runInThreads(1, [&](int) {
+            manager = KTSingleton<KTPageOrganizationManager>::instance();
+            manager->setCalculator(calculator);
+            manager->organization(type(1));
+            QMetaObject::invokeMethod(manager, "clearCache", Qt::QueuedConnection);
+        });
+        QCoreApplication::processEvents();
+        manager->organization(type(1));
+        QCOMPARE(calculator->calls.load(), 2);
+    }
+
     void letsTheCalculatorAskAgain()
     {
         KTPageOrganizationManager *const manager = KTSingleton<KTPageOrganizationManager>::instance();
@@ -125,5 +140,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_KTPageOrganizationManager)
+QTEST_GUILESS_MAIN(tst_KTPageOrganizationManager)
 #include "tst_KTPageOrganizationManager.moc"

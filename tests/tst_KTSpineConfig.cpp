@@ -5,10 +5,12 @@
 #include <KTSpineConfig.h>
 
 #include "KTBoundaries.h"
+#include "KTMessageRecorder.h"
 #include "KTTestSupport.h"
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QGuiApplication>
 
 using KTTest::toInt;
 using KTTest::Wide;
@@ -20,6 +22,16 @@ KTSpineConfig config(double base, double block, double additional, int packagesP
     const auto distance = [](double units) { return KTDistance(units, KTDistanceUnitLayout); };
     return KTSpineConfig(KTPageCountOrganization(KTIntRange(24, 96), 2), packagesPerBlock, distance(base),
                          distance(block), distance(additional));
+}
+
+/** The smallest size and how many warnings there were, before there were fonts to measure. */
+QStringList answersWithoutFonts;
+
+void askWithoutFonts()
+{
+    const KTMessageRecorder recorder;
+    const int size = config(1000, 0, 0).spineMaxFontHeigth(24, QString());
+    answersWithoutFonts.append(KTTest::text(size, recorder.messages().size()));
 }
 
 } // namespace
@@ -95,16 +107,18 @@ private Q_SLOTS:
     void choosesTheFontSize_data()
     {
         const KTTest::Rows<QList<int>, double, int> row;
-        // Base widths of which, with two blocks, the printable share is just the line of 200 points, or less.
-        const int line = QFontMetrics(QFont(QFont().family(), 200)).lineSpacing();
+        // Base widths of which, with two blocks, the printable share is just the line of 150 points, or less.
+        QFont font;
+        font.setPixelSize(200);
+        const int line = QFontMetrics(font).lineSpacing();
         const double fits = line / 0.85 - 10.0;
         const double fitsNot = (line - 0.6) / 0.85 - 10.0;
         row("no sizes", {}, fits, 0);
         row("one size is never measured", {400}, 0.0, 400);
-        row("fits exactly", {10, 15, 200, 400}, fits, 200);
-        row("just too tall", {10, 15, 200, 400}, fitsNot, 15);
-        row("all fit", {10, 15, 200}, 1000.0, 200);
-        row("the first too tall one ends it", {10, 400, 200}, fits, 10);
+        row("fits exactly", {10, 15, 150, 400}, fits, 150);
+        row("just too tall", {10, 15, 150, 400}, fitsNot, 15);
+        row("all fit", {10, 15, 150}, 1000.0, 150);
+        row("the first too tall one ends it", {10, 400, 150}, fits, 10);
         row("sizes that are none", {-5, 0, INT_MAX}, fits, 0);
     }
     void choosesTheFontSize()
@@ -119,6 +133,8 @@ private Q_SLOTS:
         manager->setDefaultFontSizes(before);
     }
 
+    void answersWithoutFonts() { QCOMPARE(::answersWithoutFonts.join(u' '), u"6|1 6|1"_s); }
+
     void survivesAnyWidth()
     {
         const QList<int> sizes = KTFontSizeManager::instance()->defaultFontSizes();
@@ -132,5 +148,18 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_KTSpineConfig)
+int main(int argc, char *argv[])
+{
+    // No monitor has the resolution that the sizes are made for.
+    qputenv("QT_FONT_DPI", "144");
+    askWithoutFonts();
+    {
+        const QCoreApplication application(argc, argv);
+        askWithoutFonts();
+    }
+    const QGuiApplication application(argc, argv);
+    tst_KTSpineConfig test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_KTSpineConfig.moc"

@@ -26,7 +26,7 @@ private Q_SLOTS:
         KTTest::check(read,
                       {" 17  -> 17|17|+|+", "-1.5e1 -> 7|-15|+|+", "2147483648 -> 7|2147483648|+|+",
                        "1e999 -> 7|0.5|+|+", "inf -> 7|0.5|+|+", "nan -> 7|0.5|+|+", "0x10 -> 7|0.5|+|+",
-                       "1,000 -> 7|0.5|+|+", " -> 7|0.5|+|+", "0 -> 0|0|-|+", "False -> 7|0.5|-|+",
+                       "1,000 -> 7|0.5|+|+", " -> 7|0.5|+|+", "0 -> 0|0|-|+", " False\n -> 7|0.5|-|+",
                        "no -> 7|0.5|+|+"});
     }
 
@@ -45,13 +45,14 @@ private Q_SLOTS:
     void convertsDistances()
     {
         const auto converted = [](const QString &unit) {
-            const auto distance
-                = KTXMLParser::readDistance(KTTest::element(u"<e a='2.5'/>"_s), u"a"_s, 0.0, unit);
-            return KTTest::text(distance.layoutUnits(), distance.value(unit));
+            const QDomElement element = KTTest::element(u"<e a='2.5' b='1.7e308'/>"_s);
+            const auto distance = KTXMLParser::readDistance(element, u"a"_s, 0.0, unit);
+            const auto absurd = KTXMLParser::readDistance(element, u"b"_s, 2.0, unit);
+            return KTTest::text(distance.layoutUnits(), distance.value(unit), absurd.value(unit));
         };
         KTTest::check(converted,
-                      {"layoutunit -> 2.5|2.5", "MM -> 25|2.5", "inch -> 635|2.5", "cm -> 250|2.5",
-                       "pt -> 8.81944444444|2.5"});
+                      {"layoutunit -> 2.5|2.5|1.7e+308", "MM -> 25|2.5|2", "inch -> 635|2.5|2",
+                       "cm -> 250|2.5|2", "pt -> 8.81944444444|2.5|2"});
     }
 
     void warnsOfUnknownUnit()

@@ -2,9 +2,11 @@
 
 #include <KTStringLiteral.h>
 
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMessageLogger>
 
 #include <dlfcn.h>
 
@@ -27,11 +29,8 @@ QString libraryFolder()
     return QFileInfo(QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath()).path();
 }
 
-QString defaultResourceRoot()
+QString installedRoot()
 {
-    QString root = qEnvironmentVariable(ROOT_VARIABLE);
-    if (!root.isEmpty())
-        return root;
     const QDir folder(libraryFolder());
     for (const char *const path : ROOTS) {
         const QFileInfo candidate(folder, QString::fromUtf8(path));
@@ -41,26 +40,53 @@ QString defaultResourceRoot()
     return QString();
 }
 
+/** The folder that the environment names; empty, with a warning, where that is no folder. */
+QString environmentRoot()
+{
+    const QString root = QFile::decodeName(qgetenv(ROOT_VARIABLE));
+    if (root.isEmpty() || QFileInfo(root).isDir())
+        return root;
+    QMessageLogger("libs/KTCore/KTDirectoryConfig", __LINE__, Q_FUNC_INFO, "default").warning()
+        << ROOT_VARIABLE << "names no folder:" << root;
+    return QString();
+}
+
 bool isRelativeWithoutDetour(const QString &name)
 {
     return !name.isEmpty() && !name.contains(QChar::Null) && !QDir::isAbsolutePath(name)
         && !name.split(FOLDER_SEPARATOR).contains(PARENT_FOLDER);
 }
 
-} // namespace
-
-KTDirectoryConfig::KTDirectoryConfig()
-    : myResourceRoot(defaultResourceRoot())
+/** The canonical path of the regular file below the folder; empty for anything else. */
+QString fileBelow(const QString &folder, const QString &name)
 {
-}
-
-QString KTDirectoryConfig::resource(const QString &name, bool) const
-{
-    QString root = QFileInfo(myResourceRoot).canonicalFilePath();
-    if (root.isEmpty() || !isRelativeWithoutDetour(name))
+    QString root = QFileInfo(folder).canonicalFilePath();
+    if (root.isEmpty())
         return QString();
     if (!root.endsWith(FOLDER_SEPARATOR))
         root += FOLDER_SEPARATOR;
     const QString path = QFileInfo(root + name).canonicalFilePath();
     return path.startsWith(root) && QFileInfo(path).isFile() ? path : QString();
+}
+
+} // namespace
+
+KTDirectoryConfig::KTDirectoryConfig()
+    : myInstalledRoot(installedRoot())
+{
+    const QString root = environmentRoot();
+    setResourceRoot(root.isEmpty() ? myInstalledRoot : root);
+}
+
+void KTDirectoryConfig::setResourceRoot(const QString &path)
+{
+    myResourceRoot = path.isEmpty() ? path : QDir::cleanPath(QDir().absoluteFilePath(path));
+}
+
+QString KTDirectoryConfig::resource(const QString &name, bool) const
+{
+    if (!isRelativeWithoutDetour(name))
+        return QString();
+    const QString path = fileBelow(myResourceRoot, name);
+    return path.isEmpty() ? fileBelow(myInstalledRoot, name) : path;
 }

@@ -8,7 +8,7 @@
 
 class QFont;
 
-/** Makes the fonts of the layout. Measuring them needs a QGuiApplication. */
+/** Makes the fonts of the layout. Measuring them needs a QGuiApplication, see canMeasure(). */
 class KTCORE_EXPORT KTFontCreator : public KTSingleton<KTFontCreator>
 {
 public:
@@ -16,7 +16,9 @@ public:
     QString defaultFontFamily() const;
     /**
      * The family in the size, in points and bounded by 1 and 10,000; the platform chooses another family for
-     * one that it does not have.
+     * one that it does not have. Its metrics are those at 96 dots per inch, whatever the monitor has.
      */
     [[nodiscard]] QFont createFont(const QString &family, int size) const;
+    /** True when there is a QGuiApplication; without one Qt ends the program that measures a font. */
+    bool canMeasure() const;
 };

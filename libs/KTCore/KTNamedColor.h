@@ -9,7 +9,9 @@ class QString;
 class KTCORE_EXPORT KTNamedColor
 {
 public:
-    /** A small swatch of the colour as an HTML fragment for rich text; an invalid colour gives an empty text.
+    /**
+     * A small swatch of the colour, translucent ones included, as an HTML fragment for rich text; an invalid
+     * colour gives an empty text.
      */
     [[nodiscard]] static QString renderColorPreviewHTML(const QColor &color);
 };

@@ -6,10 +6,14 @@
 #include <KTStringLiteral.h>
 #include <KTXMLParser.h>
 
+#include <QByteArray>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDomElement>
+#include <QFile>
 #include <QHash>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <limits>
 
@@ -34,6 +38,19 @@ double layoutUnits(const QDomElement &element, const QString &name, const KTDist
 {
     return KTXMLParser::readDistance(element, name, DEFAULT_LENGTH, unit).value(KTDistanceUnitLayout);
 }
+
+// Set when exit() destroys objects with static storage; Qt's image formats are among them.
+bool isExiting = false;
+
+/** Called before Qt makes its formats, and when there is an application object, so that they go later. */
+void watchExit()
+{
+    static const struct Watch
+    {
+        ~Watch() { isExiting = true; }
+    } myWatch;
+}
+Q_COREAPP_STARTUP_FUNCTION(watchExit)
 
 /** A side as QRect holds it, by its first and last unit. */
 struct Side
@@ -67,14 +84,47 @@ qint64 heightOf(const QRect &rect)
     return qint64(rect.bottom()) - rect.top();
 }
 
+constexpr bool isTooLarge(qint64 width, qint64 height)
+{
+    // The product of two header fields may not fit into 64 bits.
+    return height > 0 && width > MOST_PIXELS / height;
+}
+
+/** True for an icon or cursor file whose picture, whatever the directory says of it, has too many pixels. */
+bool isIconTooLarge(const QString &path)
+{
+    constexpr int MAGIC_SIZE = 4;
+    constexpr int OFFSET_IN_DIRECTORY = 18;
+    constexpr int HEADER_SIZE = 24;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray directory = file.read(HEADER_SIZE);
+    const QByteArray magic = directory.left(MAGIC_SIZE).toHex();
+    if (directory.size() < HEADER_SIZE || (magic != "00000100" && magic != "00000200"))
+        return false;
+    file.seek(qFromLittleEndian<quint32>(directory.constData() + OFFSET_IN_DIRECTORY));
+    const QByteArray header = file.read(HEADER_SIZE);
+    if (header.size() < HEADER_SIZE)
+        return false;
+    const char *const bytes = header.constData();
+    if (header.startsWith("\x89PNG"))
+        return isTooLarge(qFromBigEndian<quint32>(bytes + 16), qFromBigEndian<quint32>(bytes + 20));
+    // Else a bitmap, which may lie upside down.
+    return isTooLarge(qAbs(qint64(qFromLittleEndian<qint32>(bytes + 4))),
+                      qAbs(qint64(qFromLittleEndian<qint32>(bytes + 8))));
+}
+
 QImage loadedImage(const QString &path)
 {
-    if (path.isEmpty())
+    watchExit();
+    if (path.isEmpty() || isExiting)
         return QImage();
-    const QSize size = QImageReader(path).size();
-    if (size.isEmpty() || qint64(size.width()) * size.height() > MOST_PIXELS)
+    QImageReader reader(path);
+    const QSize size = reader.size();
+    if (size.isEmpty() || isTooLarge(size.width(), size.height()) || isIconTooLarge(path))
         return QImage();
-    return QImage(path);
+    return reader.read();
 }
 
 } // namespace

@@ -38,9 +38,13 @@ public:
     int pageNr() const { return myPageNr; }
     QString imageName() const { return myImageName; }
     /**
-     * The placeholder image, see KTDirectoryConfig for where it lies. It is loaded at the first request, so
-     * even const definitions are of one thread. It is null when it cannot be loaded, tells no size in advance
-     * or has more than 64 million pixels; the next request tries again.
+     * The placeholder image: the file "icons/picshelf/<image name>" of the resources, see KTDirectoryConfig.
+     *
+     * It is loaded at the first request, so even const definitions are of one thread. It is null when it
+     * cannot be loaded, tells no size in advance or has more than 64 million pixels, also inside an icon
+     * file; the next request tries again. While static objects are destroyed at the end of the process it is
+     * null as well; a program without an application object must have loaded an image before, because Qt
+     * crashes otherwise.
      */
     QImage image() const;
     /** True when the rectangle is not empty and there is an image name. */

@@ -2,6 +2,7 @@
 
 #include "KTPageOrganizationCalculator.h"
 
+#include <QCoreApplication>
 #include <QMutexLocker>
 
 #include <deque>
@@ -20,7 +21,13 @@ KTPageCountOrganization *keepForever(const KTPageCountOrganization &organization
 
 } // namespace
 
-KTPageOrganizationManager::KTPageOrganizationManager() = default;
+KTPageOrganizationManager::KTPageOrganizationManager()
+{
+    // In a thread that ends, queued calls of the slot would be lost.
+    if (const QCoreApplication *const application = QCoreApplication::instance())
+        moveToThread(application->thread());
+}
+
 KTPageOrganizationManager::~KTPageOrganizationManager() = default;
 
 void KTPageOrganizationManager::setCalculator(KTPageOrganizationCalculator *calculator)

@@ -16,7 +16,9 @@ class KTPageOrganizationCalculator;
 /**
  * The page counts of every product type, asked of the application's calculator once and then remembered.
  *
- * Safe from any thread, except as noted. A calculator must be set before the first question.
+ * Safe from any thread, except as noted. A calculator must be set before the first question. A manager lives
+ * in the application's thread, whichever thread asks for it first; one that is made before there is an
+ * application object stays in the thread that makes it.
  */
 class KTPRODUCTBASE_EXPORT KTPageOrganizationManager : public QObject,
                                                        public KTSingleton<KTPageOrganizationManager>

@@ -48,7 +48,9 @@ public:
     /**
      * The largest default font size whose line fits across the printable part of the bare spine, which is
      * without additional width. The smallest one where none fits, 0 where there are no default sizes. An
-     * empty family stands for the default one. Needs a QGuiApplication. The callers' code spells the name so.
+     * empty family stands for the default one. Lines are measured by KTFontCreator, so the size is the same
+     * on every monitor; without a QGuiApplication the answer is the smallest one, with a warning. The
+     * misspelling is part of the API.
      */
     int spineMaxFontHeigth(unsigned int pages, const QString &fontFamily) const;
     KTDistance additionalSpineWidth() const;

@@ -7,9 +7,11 @@
 #include <KTStringLiteral.h>
 #include <KTXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 #include <QFont>
 #include <QFontMetrics>
+#include <QMessageLogger>
 
 #include <algorithm>
 #include <limits>
@@ -102,6 +104,11 @@ int KTSpineConfigImpl::spineMaxFontHeigth(unsigned int pages, const QString &fon
     const int limit = KTArithmetic::rounded(width.layoutUnits());
 
     const QList<int> sizes = KTSingleton<KTFontSizeManager>::instance()->defaultFontSizes();
+    if (sizes.size() > 1 && !fonts->canMeasure()) {
+        QMessageLogger("libs/KTProductBase/KTSpineConfigImpl", __LINE__, Q_FUNC_INFO, "default").warning()
+            << "fonts cannot be measured without a QGuiApplication (using the smallest size)";
+        return sizes.constFirst();
+    }
     // The first size is never measured: smaller text is not offered even where it does not fit.
     for (int i = 1; i < sizes.size(); ++i) {
         if (QFontMetrics(fonts->createFont(family, sizes.at(i))).lineSpacing() > limit)

@@ -36,7 +36,7 @@ int KTXMLParser::intAttribute(const QDomNamedNodeMap &attributes, const QString 
 
 bool KTXMLParser::boolAttribute(const QDomElement &element, const QString &name, bool defaultValue)
 {
-    const QString text = element.attribute(name).toLower();
+    const QString text = element.attribute(name).trimmed().toLower();
     if (text == QLatin1String("true") || text == QLatin1String("1"))
         return true;
     if (text == QLatin1String("false") || text == QLatin1String("0"))
@@ -54,5 +54,6 @@ double KTXMLParser::doubleAttribute(const QDomElement &element, const QString &n
 KTDistance KTXMLParser::readDistance(const QDomElement &element, const QString &name, double defaultValue,
                                      const KTDistanceUnit &unit)
 {
-    return KTDistance(doubleAttribute(element, name, defaultValue), unit);
+    const KTDistance distance(doubleAttribute(element, name, defaultValue), unit);
+    return std::isfinite(distance.layoutUnits()) ? distance : KTDistance(defaultValue, unit);
 }

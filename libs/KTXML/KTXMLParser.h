@@ -25,12 +25,16 @@ public:
     [[nodiscard]] static int intAttribute(const QDomElement &element, const QString &name, int defaultValue);
     [[nodiscard]] static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name,
                                           int defaultValue);
-    /** "true" and "1", "false" and "0", in any letter case. */
+    /** "true" and "1", "false" and "0", in any letter case; blanks around them are ignored, as with numbers.
+     */
     [[nodiscard]] static bool boolAttribute(const QDomElement &element, const QString &name,
                                             bool defaultValue);
     [[nodiscard]] static double doubleAttribute(const QDomElement &element, const QString &name,
                                                 double defaultValue);
-    /** A length given, like its default, as a number of the unit. */
+    /**
+     * A length given, like its default, as a number of the unit. One that is not finite in layout units, such
+     * as 1.7e308 millimetres, is unreadable, too.
+     */
     [[nodiscard]] static KTDistance readDistance(const QDomElement &element, const QString &name,
                                                  double defaultValue, const KTDistanceUnit &unit);
 };
