@@ -3,6 +3,9 @@
 #include "KTTestSupport.h"
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
@@ -38,6 +41,24 @@ QStringList captures(const QString &text, const QString &pattern)
     while (matches.hasNext())
         found.append(matches.next().capturedTexts().mid(1).join(u' '));
     return found;
+}
+
+/** "articles[].id number" and the like for each value in the document. */
+void collectMembers(const QJsonValue &value, const QString &path, QSet<QString> *members)
+{
+    if (value.isArray()) {
+        for (const QJsonValue &entry : value.toArray())
+            collectMembers(entry, path + u"[]"_s, members);
+    } else if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        for (auto member = object.begin(); member != object.end(); ++member)
+            collectMembers(member.value(), path + u'.' + member.key(), members);
+    } else {
+        members->insert(path.mid(1)
+                        + (value.isBool()         ? u" boolean"_s
+                               : value.isDouble() ? u" number"_s
+                                                  : u" text"_s));
+    }
 }
 
 /** The options, "-o" as well as "--output", in what the pattern captures. */
@@ -111,6 +132,43 @@ private Q_SLOTS:
             const QString section = manual().section(title, 1).section(u"\n.S"_s, 0, 0);
             QCOMPARE(options(section, u"^\\.TP\n(.*)$"_s) + common, expected);
         }
+    }
+
+    void describesJson_data()
+    {
+        QTest::addColumn<QStringList>("commands");
+        const QString sample = u" %1/examples/catalogue.xml"_s.arg(QStringLiteral(KT_SOURCE_DIR));
+        const QString other = u" %1/tests/data/article/catalogue.xml"_s.arg(QStringLiteral(KT_SOURCE_DIR));
+        QTest::newRow("show") << QStringList {u"show"_s + sample, u"show"_s + other};
+        QTest::newRow("order") << QStringList {u"order --article 7301 --pages 30"_s + sample};
+        QTest::newRow("check") << QStringList {u"check --fail-on never"_s + other};
+        QTest::newRow("keywords") << QStringList {u"keywords"_s};
+    }
+    void describesJson()
+    {
+        QFETCH(QStringList, commands);
+        QSet<QString> members;
+        for (const QString &command : commands) {
+            const QString output = outputOf(PROGRAM, QString(command + u" --json"_s).split(u' '));
+            collectMembers(QJsonDocument::fromJson(output.toUtf8()).object(), QString(), &members);
+        }
+        const QString section
+            = contentOf(u"docs/json.md"_s)
+                  .section(u"\n## `%1`\n"_s.arg(QString::fromLatin1(QTest::currentDataTag())), 1)
+                  .section(u"\n## "_s, 0, 0);
+        for (const QString &documented : captures(section, u"^\\| `(\\S+)` \\| (\\w+) \\|"_s)) {
+            // A name in capitals stands for any.
+            const QString pattern = QRegularExpression::escape(documented)
+                                        .replace(QRegularExpression(u"[A-Z]{2,}"_s), u"[^.]+"_s);
+            const QRegularExpression row(QRegularExpression::anchoredPattern(pattern));
+            const QSet<QString> before = members;
+            for (const QString &member : before) {
+                if (row.match(member).hasMatch())
+                    members.remove(member);
+            }
+            QVERIFY2(members.size() < before.size(), qPrintable(documented));
+        }
+        QCOMPARE(members, QSet<QString>());
     }
 
     void completesWords()

@@ -44,13 +44,14 @@ private Q_SLOTS:
                 KTTest::element(u"<form key='k' %1/>"_s.arg(attributes)));
             return KTTest::text(variant.describe(), variant.visibleName());
         };
-        KTTest::check(described,
-                      {"value='v' key_name=' Cover  colour' value_name='Black' -> Cover colour: Black|Black",
-                       "value='v' value_name='Black' color='red' -> |Black",
-                       "value='v' key_name='Cover' -> Cover:|",
-                       "key_name='%2' value_name='Black' -> %2: Black|",
-                       "value='v' key_name='Cover' value_name='Red' color='#80ff0000' -> Cover: "
-                       "<span style=\"background-color:#ff0000\">&nbsp;&nbsp;&nbsp;&nbsp;</span> Red|Red"});
+        KTTest::check(
+            described,
+            {"value='v' key_name=' Cover  colour' value_name='Black' -> Cover colour: Black|Black",
+             "value='v' value_name='Black' color='red' -> |Black", "value='v' key_name='Cover' -> Cover:|",
+             "key_name='%2' value_name='Black' -> %2: Black|",
+             "value='v' key_name='Cover' value_name='Red' color='#80ff0000' -> Cover: "
+             "<span style=\"background-color:rgba(255,0,0,0.5020)\">&nbsp;&nbsp;&nbsp;&nbsp;</span> "
+             "Red|Red"});
     }
 
     void comparesKeyAndValueButOrdersByKeyName()

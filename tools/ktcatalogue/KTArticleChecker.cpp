@@ -112,8 +112,9 @@ QString numberFault(const QString &text, KTAttributeType type)
         return QStringLiteral("is not finite");
     if (std::isinf(number))
         return QStringLiteral("is out of range");
+    // A number that is finite itself may not be so in layout units.
     if (type == KTAttributeType::Number)
-        return QStringLiteral("is no number");
+        return ok ? QStringLiteral("is out of range") : QStringLiteral("is no number");
     return ok && number == std::floor(number) && std::abs(number) > std::numeric_limits<int>::max()
         ? QStringLiteral("is out of range")
         : QStringLiteral("is no whole number");
@@ -205,9 +206,6 @@ QVector<KTFinding> KTArticleChecker::check(const KTCatalogueArticle &article)
             break;
         case KTElementKind::Spine:
             checkSpine();
-            break;
-        case KTElementKind::Barcodes:
-            enterBarcodes();
             break;
         case KTElementKind::Barcode:
             checkBarcode();
@@ -319,6 +317,8 @@ void KTArticleChecker::enterAttributes(KTElementKind kind)
     }
     if (kind == KTElementKind::Article)
         beginArticle();
+    if (format.attribute(kind, format.attributeName(Role::Units)))
+        enterUnit();
     for (int i = myElement->firstAttribute; i < end; ++i) {
         const Attribute &attribute = myArticle->attributes().at(i);
         if (const KTAttributeRow *const row = rows.at(i - myElement->firstAttribute))
@@ -391,7 +391,7 @@ void KTArticleChecker::checkKeywords(const Attribute &attribute, const KTAttribu
 void KTArticleChecker::checkNumber(const Attribute &attribute, const KTAttributeRow &row)
 {
     const QStringView view = myArticle->view(attribute.value);
-    if (isReadable(row.type, view))
+    if (isReadable(row.type, view) && (row.type == KTAttributeType::Integer || isLength(view)))
         return;
     const QString text = view.toString();
     const bool isPageCount = row.element == KTElementKind::Article && *row.replacement == 0;
@@ -400,7 +400,7 @@ void KTArticleChecker::checkNumber(const Attribute &attribute, const KTAttribute
                                isPageCount ? QStringLiteral("the default: %1").arg(pageCountsText())
                                            : QString::fromLatin1(row.replacement));
     const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
-    if (row.type == KTAttributeType::Number && isReadable(row.type, withPoint))
+    if (row.type == KTAttributeType::Number && withPoint != text && isReadable(row.type, withPoint))
         message += QStringLiteral("; did you mean '%1'?").arg(withPoint);
     report(row.role == Role::ShippingGroup ? KTRule::ShippingGroup : KTRule::UnreadableNumber, message,
            &attribute);
@@ -429,6 +429,15 @@ void KTArticleChecker::checkColor(const Attribute &attribute, const KTAttributeR
                    .arg(quoted(text.toString()), QString::fromLatin1(row.replacement))
                + suggestion(text.toString(), QColor::colorNames()),
            &attribute);
+}
+
+/** Reads the unit of the lengths here and inside. */
+void KTArticleChecker::enterUnit()
+{
+    myUnit = KTArticleModel::readUnit(probe({Role::Units}));
+    // The library takes it so as well, but with a warning for each number.
+    if (!myUnit.hasExactlyOneBit())
+        myUnit = KTDistanceUnitLayout;
 }
 
 /** Reads what the checks of the article's attributes need to know. */
@@ -488,11 +497,12 @@ void KTArticleChecker::checkPageCountAttributes()
     if (KTArticleId(myArticleId).isAdventCalendarWithDoorBackPrint()) {
         for (const Role role : PAGE_COUNT_ROLES) {
             if (found(role)) {
-                report(
-                    KTRule::IgnoredAttribute,
-                    QStringLiteral("the application does not read it here: this calendar always has %1 pages")
-                        .arg(myPageCounts.minPages()),
-                    found(role));
+                report(KTRule::IgnoredAttribute,
+                       QStringLiteral(
+                           "the application does not read '%1' here: this calendar always has %2 pages")
+                           .arg(KTCatalogueFormat::instance().attributeName(role))
+                           .arg(myPageCounts.minPages()),
+                       found(role));
             }
         }
         return;
@@ -631,18 +641,10 @@ void KTArticleChecker::reportLoss(const QString &form, const QString &text, cons
            found(hasSeparator(this->text(Role::Key)) ? Role::Key : Role::Value));
 }
 
-void KTArticleChecker::enterBarcodes()
-{
-    myBarcodeUnit = KTArticleModel::readUnit(probe({Role::Units}));
-    // The library takes it so as well, but with a warning for each number.
-    if (!myBarcodeUnit.hasExactlyOneBit())
-        myBarcodeUnit = KTDistanceUnitLayout;
-}
-
 void KTArticleChecker::checkBarcode()
 {
     const KTBarcodeDefinition barcode = KTBarcodeDefinition::createFromProductsXML(
-        probe({Role::PositionX, Role::PositionY, Role::Width, Role::Height, Role::Image}), myBarcodeUnit);
+        probe({Role::PositionX, Role::PositionY, Role::Width, Role::Height, Role::Image}), myUnit);
     if (barcode.imageName().isEmpty()) {
         report(KTRule::BarcodeDropped,
                QStringLiteral("the barcode has an empty image name; the application skips it"),
@@ -772,6 +774,12 @@ bool KTArticleChecker::isReadable(KTAttributeType type, QStringView text)
     default:
         return asBoolean(false) == asBoolean(true);
     }
+}
+
+/** True for a readable number that is finite as a length, too. */
+bool KTArticleChecker::isLength(QStringView number) const
+{
+    return isPlainNumber(number) || std::isfinite(myUnit.units2Pixels(raw(number).toDouble()));
 }
 
 QString KTArticleChecker::pageCountsText() const

@@ -55,6 +55,7 @@ private:
     void checkUnit(const Attribute &attribute);
     void checkColor(const Attribute &attribute, const KTAttributeRow &row);
 
+    void enterUnit();
     void beginArticle();
     void checkArticle();
     void checkPriceClass();
@@ -64,7 +65,6 @@ private:
     void checkOption();
     void checkCompound(const QString &key, const QString &value);
     void reportLoss(const QString &form, const QString &text, const KTArticleVariants &readBack);
-    void enterBarcodes();
     void checkBarcode();
     bool hasImage(const KTBarcodeDefinition &barcode);
     void checkPreselections();
@@ -74,6 +74,7 @@ private:
     QStringView text(Role role) const;
     QDomElement probe(std::initializer_list<Role> roles);
     bool isReadable(KTAttributeType type, QStringView text);
+    bool isLength(QStringView number) const;
     QString pageCountsText() const;
     void report(KTRule rule, const QString &message, const Attribute *attribute = nullptr);
 
@@ -89,7 +90,8 @@ private:
     KTPageCountOrganization myPageCounts;
     /** What the spine counts packages with. */
     KTPageCountOrganization mySpinePageCounts;
-    KTDistanceUnit myBarcodeUnit;
+    /** Of the lengths of the present element and of those inside. */
+    KTDistanceUnit myUnit;
     std::array<bool, static_cast<std::size_t>(KTElementKind::Form) + 1> myHasElement {};
     QHash<QPair<QStringView, QStringView>, int> myOptionLines;
     QHash<QStringView, Preselection> myPreselections;

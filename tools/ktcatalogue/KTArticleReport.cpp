@@ -44,12 +44,9 @@ double spineMillimeters(const KTArticleModel &article, int pages)
         .value(KTDistanceUnitMillimeter);
 }
 
-/** The page counts asked for, or three that show the range. */
-QList<int> samplePageCounts(const KTArticleModel &article, const QList<int> &pageCounts)
+/** Three page counts that show the range, fewer where it has fewer. */
+QList<int> samplePageCounts(const KTPageCountOrganization &counts)
 {
-    if (!pageCounts.isEmpty())
-        return pageCounts;
-    const KTPageCountOrganization &counts = article.pageCounts;
     const int last = std::max(0, counts.numberOfPackages() - 1);
     QList<int> samples {counts.minPages()};
     for (const int packages : {last / 2, last}) {
@@ -104,22 +101,27 @@ QStringList productLines(const KTArticleModel &article)
 QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
 {
     const KTPageCountOrganization &counts = article.pageCounts;
-    QString text = QStringLiteral("%1 to %2, step %3: %4 choices")
-                       .arg(counts.minPages())
-                       .arg(counts.maxPages())
-                       .arg(counts.pageIncrement())
-                       .arg(counts.numberOfPackages());
+    QString text
+        = QStringLiteral("%1 to %2, step %3: %4 %5")
+              .arg(counts.minPages())
+              .arg(counts.maxPages())
+              .arg(counts.pageIncrement())
+              .arg(counts.numberOfPackages())
+              .arg(counts.numberOfPackages() == 1 ? QStringLiteral("choice") : QStringLiteral("choices"));
     if (!counts.isValid())
         text += QStringLiteral(" (not valid)");
     else if (!counts.isConsistent())
         text += QStringLiteral(" (the last step is not complete)");
     QStringList lines {line(QStringLiteral("page counts"), text)};
-    for (const int wish : wishes)
+    QList<int> granted;
+    for (const int wish : wishes) {
+        granted.append(counts.constrain(wish));
         lines.append(
-            line(QString(), QStringLiteral("%1 pages become %2").arg(wish).arg(counts.constrain(wish))));
+            line(QString(), QStringLiteral("%1 pages become %2").arg(wish).arg(granted.constLast())));
+    }
     if (article.hasSpine) {
         QStringList widths;
-        for (const int pages : samplePageCounts(article, wishes))
+        for (const int pages : wishes.isEmpty() ? samplePageCounts(counts) : granted)
             widths.append(QStringLiteral("%1 mm at %2 pages")
                               .arg(spineMillimeters(article, pages), 0, 'f', 1)
                               .arg(pages));
@@ -246,13 +248,14 @@ QJsonObject pageCountsJson(const KTArticleModel &article, const QList<int> &wish
         {QStringLiteral("consistent"), counts.isConsistent()    },
     };
     QJsonArray answers;
-    for (const int pages : samplePageCounts(article, wishes)) {
+    for (const int pages : wishes.isEmpty() ? samplePageCounts(counts) : wishes) {
+        const int becomes = counts.constrain(pages);
         QJsonObject answer {
-            {QStringLiteral("pages"),   pages                  },
-            {QStringLiteral("becomes"), counts.constrain(pages)}
+            {QStringLiteral("pages"),   pages  },
+            {QStringLiteral("becomes"), becomes}
         };
         if (article.hasSpine)
-            answer.insert(QStringLiteral("spineMillimeters"), spineMillimeters(article, pages));
+            answer.insert(QStringLiteral("spineMillimeters"), spineMillimeters(article, becomes));
         answers.append(answer);
     }
     object.insert(QStringLiteral("samples"), answers);

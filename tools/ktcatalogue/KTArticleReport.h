@@ -9,8 +9,8 @@ struct KTArticleModel;
 namespace KTArticleReport {
 
 /**
- * Several lines, ready for a terminal. The spine's width is given for each of the page counts; without any,
- * for the least, a middle and the highest one.
+ * Several lines, ready for a terminal. The spine's width is given for what becomes of each of the page
+ * counts; without any, for the least, a middle and the highest one.
  */
 QString toText(const KTArticleModel &article, const QList<int> &pageCounts);
 QJsonObject toJSON(const KTArticleModel &article, const QList<int> &pageCounts);

@@ -1,14 +1,5 @@
 #include "KTCatalogueArticle.h"
 
-KTFilePosition KTCatalogueArticle::position(const Element &element, QStringView attribute) const
-{
-    for (int i = element.firstAttribute; i < element.firstAttribute + element.attributeCount; ++i) {
-        if (view(myAttributes.at(i).name) == attribute)
-            return myAttributes.at(i).position;
-    }
-    return element.position;
-}
-
 QDomElement KTCatalogueArticle::element() const
 {
     if (!myDocument.documentElement().isNull())

@@ -44,8 +44,6 @@ public:
     const QVector<Attribute> &attributes() const { return myAttributes; }
     /** Valid until the article changes. */
     QStringView view(Text text) const { return QStringView(myText).mid(text.begin, text.length); }
-    /** Where the element's attribute begins; where its tag begins when it has no such attribute. */
-    KTFilePosition position(const Element &element, QStringView attribute) const;
 
     /** The article as the library reads it; built when it is asked for. */
     QDomElement element() const;

@@ -1,15 +1,16 @@
 #include "KTCatalogueChecker.h"
 
 #include "KTCatalogueReader.h"
+#include "KTFileName.h"
 
 #include <QFile>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
-const QLatin1String STANDARD_INPUT("-");
+/** The file as a whole. */
+constexpr KTFilePosition NO_POSITION = {0, 0};
 
 KTRule ruleOf(KTCatalogueErrorKind kind)
 {
@@ -44,13 +45,12 @@ KTCatalogueChecker::KTCatalogueChecker(Receiver receiver, const KTRuleSeverities
 
 bool KTCatalogueChecker::checkFile(const QString &name)
 {
-    QFile file(name);
-    const bool isOpen
-        = name == STANDARD_INPUT ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (isOpen)
+    QFile file;
+    const QString error = KTFileName::open(&file, name);
+    if (error.isEmpty())
         return check(name, &file);
-    reportFile(KTRule::UnreadableFile, name, KTFilePosition(),
-               QStringLiteral("%1; the application has no articles from it").arg(file.errorString()));
+    reportFile(KTRule::UnreadableFile, name, NO_POSITION,
+               QStringLiteral("%1; the application has no articles from it").arg(error));
     return false;
 }
 

@@ -1,20 +1,13 @@
 #include "KTCatalogueFile.h"
 
 #include "KTCommandLine.h"
-
-#include <cstdio>
-
-namespace {
-const QLatin1String STANDARD_INPUT("-");
-}
+#include "KTFileName.h"
 
 KTCatalogueFile::KTCatalogueFile(const QString &name)
     : myName(name)
-    , myFile(name)
+    , myOpenError(KTFileName::open(&myFile, name))
 {
-    const bool isOpen
-        = name == STANDARD_INPUT ? myFile.open(stdin, QIODevice::ReadOnly) : myFile.open(QIODevice::ReadOnly);
-    if (isOpen)
+    if (myOpenError.isEmpty())
         myReader = std::make_unique<KTCatalogueReader>(&myFile);
 }
 
@@ -30,7 +23,7 @@ std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
 {
     if (!myReader) {
         return KTCommandLine::fail(KTExitUnreadable,
-                                   QStringLiteral("%1: error: %2").arg(myName, myFile.errorString()));
+                                   QStringLiteral("%1: error: %2").arg(myName, myOpenError));
     }
     if (myReader->errorText().isEmpty())
         return std::nullopt;

@@ -3,6 +3,7 @@
 #include "KTArticleModel.h"
 #include "KTCatalogueReader.h"
 #include "KTExitCode.h"
+#include "KTProgressLine.h"
 
 #include <QFile>
 
@@ -24,8 +25,13 @@ public:
     std::optional<KTExitCode> forEachArticle(Function function)
     {
         KTCatalogueArticle article;
-        while (myReader && myReader->readNext(&article))
+        KTProgressLine progress(true);
+        for (int count = 1; myReader && myReader->readNext(&article); ++count) {
             function(article);
+            if (progress.isDue())
+                progress.show(QStringLiteral("%1: %2 articles").arg(myName, QString::number(count)));
+        }
+        progress.clear();
         return reportFailure();
     }
 
@@ -37,5 +43,7 @@ private:
 
     QString myName;
     QFile myFile;
+    /** Why the file cannot be opened. */
+    QString myOpenError;
     std::unique_ptr<KTCatalogueReader> myReader;
 };

@@ -2,20 +2,19 @@
 
 #include "KTCatalogueChecker.h"
 #include "KTCommandLine.h"
+#include "KTFileName.h"
 #include "KTFindingWriter.h"
 #include "KTNearestWord.h"
 #include "KTProgressLine.h"
 
 #include <QFile>
 
-#include <cstdio>
 #include <limits>
 #include <unistd.h>
 
 namespace {
 
 const QString FILES_FROM = QStringLiteral("files-from");
-const QString FORMAT = QStringLiteral("format");
 const QString FAIL_ON = QStringLiteral("fail-on");
 const QString IGNORE = QStringLiteral("ignore");
 const QString ERROR = QStringLiteral("error");
@@ -29,7 +28,7 @@ const QString COLOR = QStringLiteral("color");
 const QString NEVER = QStringLiteral("never");
 const QString AUTO = QStringLiteral("auto");
 const QString ALWAYS = QStringLiteral("always");
-const QString STANDARD_INPUT = QStringLiteral("-");
+constexpr QChar SEPARATOR = u',';
 constexpr KTSeverity SEVERITIES[] = {KTSeverity::Error, KTSeverity::Warning, KTSeverity::Hint};
 
 struct Options
@@ -54,11 +53,10 @@ struct OptionRow
 
 const OptionRow OPTIONS[] = {
     {FILES_FROM,   "FILE",     "",        "Further files, named in FILE line by line; - for standard input."           },
-    {FORMAT,       "FORMAT",   "text",    "text (the default), json or sarif."                                         },
     {FAIL_ON,      "SEVERITY", "warning",
      "The least severity for exit code 1: error, warning (the default), hint or never."                                },
-    {IGNORE,       "RULE",     "",        "Leaves out a rule."                                                         },
-    {ERROR,        "RULE",     "",        "Takes a rule's findings as errors."                                         },
+    {IGNORE,       "RULE",     "",        "Leaves out a rule, or several, separated by commas."                        },
+    {ERROR,        "RULE",     "",        "Takes the findings of a rule, or of several, as errors."                    },
     {PEDANTIC,     "",         "",        "Takes warnings as errors and hints as warnings."                            },
     {MAX_FINDINGS, "N",        "",        "Shows the first N findings; all of them are counted."                       },
     {QUIET,        "",         "",        "Neither summary nor progress on standard error."                            },
@@ -76,12 +74,6 @@ void addOptions(QCommandLineParser *parser)
             option.setDefaultValue(QString::fromLatin1(row.defaultValue));
         parser->addOption(option);
     }
-}
-
-KTExitCode failChoice(const QString &option, const QString &value, const QStringList &choices)
-{
-    return KTCommandLine::failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")
-                                        .arg(value, option, choices.join(QStringLiteral(", "))));
 }
 
 /** Reports a rule that does not exist. */
@@ -133,29 +125,34 @@ std::optional<KTExitCode> readFailOn(const QString &word, std::optional<KTSeveri
             *failOn = severity;
     }
     words.append(NEVER);
-    return words.contains(word) ? std::nullopt : std::make_optional(failChoice(FAIL_ON, word, words));
+    return words.contains(word) ? std::nullopt
+                                : std::make_optional(KTCommandLine::failChoice(FAIL_ON, word, words));
 }
 
 /** What is to be done; an exit code for wrong usage, which is reported. */
-std::optional<KTExitCode> readOptions(const QCommandLineParser &parser, Options *options)
+std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options *options)
 {
-    options->format = parser.value(FORMAT);
-    if (!KTFindingWriter::formats().contains(options->format))
-        return failChoice(FORMAT, options->format, KTFindingWriter::formats());
+    const QCommandLineParser &parser = commandLine.parser();
+    const std::optional<QString> format = commandLine.format();
+    if (!format)
+        return KTExitUsage;
+    options->format = *format;
     const QString color = parser.value(COLOR);
     const QStringList colors {AUTO, ALWAYS, NEVER};
     if (!colors.contains(color))
-        return failChoice(COLOR, color, colors);
+        return KTCommandLine::failChoice(COLOR, color, colors);
     options->isColored = color == ALWAYS || (color == AUTO && isTerminalColored());
     if (const auto code = readFailOn(parser.value(FAIL_ON), &options->failOn))
         return code;
-    for (const QString &name : parser.values(IGNORE) + parser.values(ERROR)) {
+    const QStringList ignored = parser.values(IGNORE).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts);
+    const QStringList errors = parser.values(ERROR).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts);
+    for (const QString &name : ignored + errors) {
         if (!findRule(name))
             return KTExitUsage;
     }
-    for (const QString &name : parser.values(IGNORE))
+    for (const QString &name : ignored)
         options->severities.ignore(KTCheckRules::find(name)->rule);
-    for (const QString &name : parser.values(ERROR))
+    for (const QString &name : errors)
         options->severities.raiseToError(KTCheckRules::find(name)->rule);
     options->severities.setPedantic(parser.isSet(PEDANTIC));
     options->isQuiet = parser.isSet(QUIET);
@@ -172,19 +169,16 @@ std::optional<KTExitCode> readOptions(const QCommandLineParser &parser, Options 
 /** The names in the file, one per line; an exit code when it cannot be read. */
 std::optional<KTExitCode> readNames(const QString &listName, QStringList *names)
 {
-    QFile file(listName);
-    const bool isOpen
-        = listName == STANDARD_INPUT ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen) {
-        return KTCommandLine::fail(KTExitUnreadable,
-                                   QStringLiteral("%1: error: %2").arg(listName, file.errorString()));
-    }
+    QFile file;
+    const QString error = KTFileName::open(&file, listName);
+    if (!error.isEmpty())
+        return KTCommandLine::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(listName, error));
     while (!file.atEnd()) {
         QByteArray line = file.readLine();
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
         if (!line.isEmpty())
-            names->append(QFile::decodeName(line));
+            names->append(KTFileName::fromBytes(line));
     }
     return std::nullopt;
 }
@@ -260,6 +254,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
                        "application makes of it. Exits with 0 when nothing was found, 1 for findings, 2 for "
                        "files that are not readable."),
         QStringLiteral("examples/catalogue.xml --fail-on=error"), KTCommandLine::Files::Any);
+    commandLine.addFormats(KTFindingWriter::formats());
     addOptions(&commandLine.parser());
     if (const auto code = commandLine.parse(arguments))
         return *code;
@@ -273,7 +268,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
     }
 
     Options options;
-    if (const auto code = readOptions(parser, &options))
+    if (const auto code = readOptions(commandLine, &options))
         return *code;
     QStringList names = commandLine.fileNames();
     for (const QString &listName : parser.values(FILES_FROM)) {

@@ -60,7 +60,7 @@ constexpr KTRuleRow RULES[] = {
     rule(KTRule::UnreadableNumber, "unreadable-number", KTSeverity::Warning,
          "a number is unreadable, not finite or out of range",
          "The default counts in its place. Numbers are written with a decimal point and without a unit; "
-         "whole numbers have 32 bits."),
+         "whole numbers have 32 bits, and lengths are finite in layout units of 0.1 mm, too."),
     rule(KTRule::UnreadableBoolean, "unreadable-boolean", KTSeverity::Warning,
          "a text is neither true nor false",
          "Only 'true', 'false', '1' and '0' are read, in any letter case; everything else counts as the "

@@ -156,3 +156,11 @@ const KTClassification *KTClassification::ofClass(const QString &className)
     });
     return found == all().end() ? nullptr : &*found;
 }
+
+const KTClassification *KTClassification::ofName(const QString &name)
+{
+    const auto found = std::find_if(all().begin(), all().end(), [&](const KTClassification &row) {
+        return row.className() == name || (!name.isEmpty() && row.attribute() == name);
+    });
+    return found == all().end() ? nullptr : &*found;
+}

@@ -23,6 +23,8 @@ public:
     /** The one that the attribute of the element carries; null for other attributes. */
     static const KTClassification *ofAttribute(const QString &element, const QString &attribute);
     static const KTClassification *ofClass(const QString &className);
+    /** The one with the name of the class or of the attribute. */
+    static const KTClassification *ofName(const QString &name);
 
     QString className() const { return myClassName; }
     /** Empty for a classification that no attribute carries. */

@@ -1,5 +1,6 @@
 #include "KTCommandLine.h"
 
+#include "KTFileName.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
 
@@ -10,7 +11,9 @@
 
 namespace {
 const QString HELP_OPTION = QStringLiteral("help");
-}
+const QString FORMAT_OPTION = QStringLiteral("format");
+const QString JSON_OPTION = QStringLiteral("json");
+} // namespace
 
 KTCommandLine::KTCommandLine(const QString &command, const QString &description, const QString &example,
                              Files files)
@@ -24,11 +27,32 @@ KTCommandLine::KTCommandLine(const QString &command, const QString &description,
         {QStringLiteral("h"), HELP_OPTION},
         QStringLiteral("Displays this help.")
     });
-    if (files == Files::None)
-        return;
-    myParser.addPositionalArgument(
-        QStringLiteral("FILE"), QStringLiteral("The catalogue; - for standard input."),
-        command + (files == Files::One ? QStringLiteral(" FILE") : QStringLiteral(" [FILE...]")));
+    const QString file = QStringLiteral("FILE");
+    if (files != Files::None) {
+        myParser.addPositionalArgument(file, QStringLiteral("The catalogue; - for standard input."),
+                                       files == Files::One ? file : QStringLiteral("[FILE...]"));
+    }
+}
+
+void KTCommandLine::addFormats(const QStringList &formats)
+{
+    myFormats = formats;
+    myParser.addOptions({
+        {FORMAT_OPTION,
+         QStringLiteral("One of %1; %2 by default.")
+             .arg(formats.join(QStringLiteral(", ")),    formats.constFirst()),
+         QStringLiteral("FORMAT"), formats.constFirst()},
+        {JSON_OPTION, QStringLiteral("The same as --format json.")},
+    });
+}
+
+std::optional<QString> KTCommandLine::format() const
+{
+    const QString format = myParser.isSet(JSON_OPTION) ? JSON_OPTION : myParser.value(FORMAT_OPTION);
+    if (myFormats.contains(format))
+        return format;
+    failChoice(FORMAT_OPTION, format, myFormats);
+    return std::nullopt;
 }
 
 std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
@@ -36,10 +60,23 @@ std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
     if (!myParser.parse(QStringList(QCoreApplication::applicationName()) + arguments))
         return failUsage(myParser.errorText());
     if (myParser.isSet(HELP_OPTION))
-        return print(myParser.helpText());
+        return print(helpText());
     if (myFiles == Files::One && myParser.positionalArguments().size() != 2)
         return failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
     return std::nullopt;
+}
+
+/** Qt would put the options before the command, where they are not understood. */
+QString KTCommandLine::helpText() const
+{
+    const QString text = myParser.helpText();
+    const QString firstLine = text.section(QLatin1Char('\n'), 0, 0);
+    const QString operands = firstLine.section(QLatin1Char(']'), 1).trimmed();
+    return QStringLiteral("Usage: %1\n")
+               .arg(QStringList {QCoreApplication::applicationName(), myCommand, operands,
+                                 QStringLiteral("[OPTIONS]")}
+                        .join(QLatin1Char(' ')))
+        + text.mid(firstLine.size() + 1);
 }
 
 QString KTCommandLine::fileName() const
@@ -79,7 +116,7 @@ std::optional<QList<int>> KTCommandLine::numbers(const QCommandLineOption &optio
 
 KTExitCode KTCommandLine::fail(KTExitCode code, const QString &message)
 {
-    const QByteArray line = KTTerminalText::visible(message).toUtf8() + '\n';
+    const QByteArray line = KTFileName::toBytes(KTTerminalText::visible(message)) + '\n';
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
     return code;
 }
@@ -88,6 +125,12 @@ KTExitCode KTCommandLine::failUsage(const QString &message)
 {
     const QString name = QCoreApplication::applicationName();
     return fail(KTExitUsage, QStringLiteral("%1: %2; see '%1 --help'").arg(name, message));
+}
+
+KTExitCode KTCommandLine::failChoice(const QString &option, const QString &value, const QStringList &choices)
+{
+    return failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")
+                         .arg(value, option, choices.join(QStringLiteral(", "))));
 }
 
 KTExitCode KTCommandLine::failNoArticle(int articleId) const

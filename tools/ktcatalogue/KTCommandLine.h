@@ -24,6 +24,11 @@ public:
     KTCommandLine(const QString &command, const QString &description, const QString &example,
                   Files files = Files::One);
 
+    /** Adds --format with the values, of which the first is the default, and its short form --json. */
+    void addFormats(const QStringList &formats);
+    /** The format asked for; one that does not exist is reported as wrong usage. */
+    std::optional<QString> format() const;
+
     QCommandLineParser &parser() { return myParser; }
     const QCommandLineParser &parser() const { return myParser; }
 
@@ -43,6 +48,8 @@ public:
     /** Prints one line about what went wrong to standard error and returns the code. */
     static KTExitCode fail(KTExitCode code, const QString &message);
     static KTExitCode failUsage(const QString &message);
+    /** Reports a value that the option does not have. */
+    static KTExitCode failChoice(const QString &option, const QString &value, const QStringList &choices);
     KTExitCode failNoArticle(int articleId) const;
     /** The objection is a predicate: "has no page sizes". */
     KTExitCode failArticle(int articleId, const QString &objection) const;
@@ -51,7 +58,10 @@ public:
     static KTExitCode deliver(KTSpool *spool);
 
 private:
+    QString helpText() const;
+
     QString myCommand;
     Files myFiles;
+    QStringList myFormats;
     QCommandLineParser myParser;
 };

@@ -11,6 +11,7 @@ struct KTFinding
     KTRule rule;
     KTSeverity severity;
     QString file;
+    /** Line and column 0 where the file as a whole is meant. */
     KTFilePosition position;
     /** 0 outside of articles and in one without a number. */
     int articleId;

@@ -1,12 +1,12 @@
 #include "KTFindingWriter.h"
 
+#include "KTFileName.h"
 #include "KTTerminalText.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QUrl>
 
 #include <cerrno>
 #include <cstdio>
@@ -65,10 +65,10 @@ public:
 
     void write(const KTFinding &finding) override
     {
-        const QString place
-            = KTTerminalText::visible(QStringLiteral("%1:%2:%3:")
-                                          .arg(finding.file, QString::number(finding.position.line),
-                                               QString::number(finding.position.column)));
+        const QString place = KTTerminalText::visible(finding.file)
+            + (finding.position.line == 0
+                   ? QStringLiteral(":")
+                   : QStringLiteral(":%1:%2:").arg(finding.position.line).arg(finding.position.column));
         const QString severity = KTCheckRules::name(finding.severity) + QLatin1Char(':');
         const QString rest = KTTerminalText::visible(finding.message)
             + QStringLiteral(" [%1]\n").arg(KTCheckRules::name(finding.rule));
@@ -104,7 +104,7 @@ private:
 class JsonWriter : public DocumentWriter
 {
 public:
-    void begin() override { print(QStringLiteral("{\"findings\":[")); }
+    void begin() override { print(QStringLiteral("{\"format\":1,\"findings\":[")); }
 
     void end(const KTFindingCounts &counts) override
     {
@@ -117,7 +117,7 @@ protected:
         return {
             {QStringLiteral("rule"),      KTCheckRules::name(finding.rule)    },
             {QStringLiteral("severity"),  KTCheckRules::name(finding.severity)},
-            {QStringLiteral("file"),      finding.file                        },
+            {QStringLiteral("file"),      KTFileName::escaped(finding.file)   },
             {QStringLiteral("line"),      finding.position.line               },
             {QStringLiteral("column"),    finding.position.column             },
             {QStringLiteral("article"),   finding.articleId                   },
@@ -159,16 +159,18 @@ public:
 protected:
     QJsonObject toJSON(const KTFinding &finding) const override
     {
-        const QJsonObject region {
-            {QStringLiteral("startLine"),   finding.position.line  },
-            {QStringLiteral("startColumn"), finding.position.column},
+        const QByteArray uri = KTFileName::toBytes(finding.file).toPercentEncoding("/");
+        QJsonObject physical {
+            {QStringLiteral("artifactLocation"),
+             QJsonObject {{QStringLiteral("uri"), QString::fromLatin1(uri)}}}
         };
-        const QString uri
-            = QString::fromLatin1(QUrl::toPercentEncoding(finding.file, QByteArrayLiteral("/")));
-        const QJsonObject physical {
-            {QStringLiteral("artifactLocation"), QJsonObject {{QStringLiteral("uri"), uri}}},
-            {QStringLiteral("region"),           region                                    },
-        };
+        if (finding.position.line > 0) {
+            physical.insert(QStringLiteral("region"),
+                            QJsonObject {
+                                {QStringLiteral("startLine"),   finding.position.line  },
+                                {QStringLiteral("startColumn"), finding.position.column},
+            });
+        }
         QJsonObject location {
             {QStringLiteral("physicalLocation"), physical}
         };
@@ -288,7 +290,7 @@ bool KTFindingWriter::flush()
 
 void KTFindingWriter::print(const QString &text)
 {
-    const QByteArray bytes = text.toUtf8();
+    const QByteArray bytes = KTFileName::toBytes(text);
     if (myIsComplete && myOutput.write(bytes) != bytes.size())
         fail();
 }

@@ -122,7 +122,11 @@ QString json(const QVector<KTClassification> &rows)
             {QStringLiteral("emptyText"),   emptyText      }
         });
     }
-    return QString::fromUtf8(QJsonDocument(tables).toJson());
+    const QJsonObject object {
+        {QStringLiteral("format"),  1     },
+        {QStringLiteral("classes"), tables}
+    };
+    return QString::fromUtf8(QJsonDocument(object).toJson());
 }
 
 /** A page of its own: docs/keywords.md. */
@@ -185,14 +189,14 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
             "what else is read, and what becomes of other texts."),
         QStringLiteral("KTOrientation"), KTCommandLine::Files::None);
     commandLine.parser().addPositionalArgument(
-        QStringLiteral("CLASS"), QStringLiteral("Only this classification, such as KTOrientation."),
-        QStringLiteral("keywords [CLASS]"));
-    const QCommandLineOption formatOption(
-        QStringLiteral("format"),
-        QStringLiteral("One of text (the default), json and markdown, a page of documentation."),
-        QStringLiteral("FORMAT"), QStringLiteral("text"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("The same as --format json."));
-    commandLine.parser().addOptions({formatOption, jsonOption});
+        QStringLiteral("CLASS"),
+        QStringLiteral("Only this classification, named by its class or its attribute: KTOrientation or "
+                       "orientation."),
+        QStringLiteral("[CLASS]"));
+    QStringList formats;
+    for (const FormatRow &row : FORMATS)
+        formats.append(QString::fromLatin1(row.name));
+    commandLine.addFormats(formats);
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
@@ -201,17 +205,13 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
         return KTCommandLine::failUsage(QStringLiteral("'keywords' takes one class"));
     QVector<KTClassification> rows = KTClassification::all();
     if (!operands.isEmpty()) {
-        const KTClassification *const row = KTClassification::ofClass(operands.constFirst());
+        const KTClassification *const row = KTClassification::ofName(operands.constFirst());
         if (!row)
             return failClass(operands.constFirst());
         rows = {*row};
     }
-    const QString format = commandLine.parser().isSet(jsonOption) ? QStringLiteral("json")
-                                                                  : commandLine.parser().value(formatOption);
-    for (const FormatRow &row : FORMATS) {
-        if (format == QLatin1String(row.name))
-            return KTCommandLine::print(row.format(rows));
-    }
-    return KTCommandLine::failUsage(
-        QStringLiteral("unknown format '%1'; there are text, json and markdown").arg(format));
+    const std::optional<QString> format = commandLine.format();
+    if (!format)
+        return KTExitUsage;
+    return KTCommandLine::print(FORMATS[formats.indexOf(*format)].format(rows));
 }

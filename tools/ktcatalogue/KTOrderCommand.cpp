@@ -12,6 +12,9 @@
 
 namespace {
 
+const QString TEXT_FORMAT = QStringLiteral("text");
+const QString JSON_FORMAT = QStringLiteral("json");
+
 QStringList distinctValues(const KTConfiguredArticleVariantList &options)
 {
     QStringList values;
@@ -64,6 +67,7 @@ QString text(const Order &order)
 QString json(const Order &order)
 {
     QJsonObject object {
+        {QStringLiteral("format"),      1                                                       },
         {QStringLiteral("productType"), order.article.productType.orderTxtName()                },
         {QStringLiteral("choice"),      KTVariantsText::json(order.choice)                      },
         {QStringLiteral("orderText"),   KTVariantsText::orderTxt(order.choice)                  },
@@ -109,8 +113,8 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
         QStringLiteral("choose"),
         QStringLiteral("Chooses an option that the article offers; may be given several times."),
         QStringLiteral("KEY=VALUE"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Prints a JSON object."));
-    commandLine.parser().addOptions({articleOption, pagesOption, chooseOption, jsonOption});
+    commandLine.parser().addOptions({articleOption, pagesOption, chooseOption});
+    commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
@@ -121,7 +125,8 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
     if (!pages)
         return KTExitUsage;
     const std::optional<KTArticleVariants> chosen = choices(commandLine.parser().values(chooseOption));
-    if (!chosen)
+    const std::optional<QString> format = chosen ? commandLine.format() : std::nullopt;
+    if (!format)
         return KTExitUsage;
 
     std::optional<KTArticleModel> article;
@@ -144,6 +149,6 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
         order.pages = pages->constLast();
     order.choice.insert(*chosen);
     KTSpool spool;
-    spool.write(commandLine.parser().isSet(jsonOption) ? json(order) : text(order));
+    spool.write(*format == JSON_FORMAT ? json(order) : text(order));
     return KTCommandLine::deliver(&spool);
 }

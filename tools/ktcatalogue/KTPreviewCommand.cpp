@@ -3,15 +3,18 @@
 #include "KTArticleModel.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
+#include "KTFileName.h"
 #include "KTPreviewPainter.h"
 
+#include <QBuffer>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QHash>
 #include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace {
@@ -31,19 +34,35 @@ bool paintOn(QPaintDevice *device, const KTPreviewPainter &preview, double scale
     return painter.end();
 }
 
-bool writeSvg(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+/** The time that everything counts as made at, where builds are to be the same; empty for the present one. */
+QByteArray sourceDate()
 {
+    bool ok = false;
+    const qint64 seconds = qgetenv("SOURCE_DATE_EPOCH").toLongLong(&ok);
+    if (!ok)
+        return QByteArray();
+    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)
+        .toString(QStringLiteral("yyyyMMddhhmmss"))
+        .toLatin1();
+}
+
+// Each draws into memory and gives the file's bytes, or none when that fails.
+
+QByteArray svg(const KTPreviewPainter &preview, const QString &title)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
     QSvgGenerator generator;
-    generator.setOutputDevice(file);
+    generator.setOutputDevice(&buffer);
     generator.setResolution(LAYOUT_UNITS_PER_INCH);
     generator.setSize(preview.sheetSize());
     generator.setViewBox(QRect(QPoint(), preview.sheetSize()));
     // Qt writes the title as it is.
     generator.setTitle(title.toHtmlEscaped());
-    return paintOn(&generator, preview, 1.0);
+    return paintOn(&generator, preview, 1.0) ? bytes : QByteArray();
 }
 
-bool writePng(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+QByteArray png(const KTPreviewPainter &preview, const QString &title)
 {
     constexpr double SCALE = double(IMAGE_DOTS_PER_MILLIMETER) / LAYOUT_UNITS_PER_MILLIMETER;
     QImage image(preview.sheetSize() * SCALE, QImage::Format_RGB32);
@@ -52,30 +71,46 @@ bool writePng(QIODevice *file, const KTPreviewPainter &preview, const QString &t
     image.setDotsPerMeterX(IMAGE_DOTS_PER_MILLIMETER * 1000);
     image.setDotsPerMeterY(IMAGE_DOTS_PER_MILLIMETER * 1000);
     image.setText(QStringLiteral("Title"), title);
-    return paintOn(&image, preview, SCALE) && image.save(file, "PNG");
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return paintOn(&image, preview, SCALE) && image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
-bool writePdf(QIODevice *file, const KTPreviewPainter &preview, const QString &title)
+QByteArray pdf(const KTPreviewPainter &preview, const QString &title)
 {
-    QPdfWriter writer(file);
+    const QByteArray date = sourceDate();
+    if (!date.isEmpty()) {
+        // Fonts are written in the order of a hash table. In UTC, Qt's date is as long as the other one.
+        qSetGlobalQHashSeed(0);
+        qputenv("TZ", "UTC");
+    }
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QPdfWriter writer(&buffer);
     writer.setResolution(LAYOUT_UNITS_PER_INCH);
     writer.setTitle(title);
     writer.setPageSize(QPageSize(QSizeF(preview.sheetSize()) / LAYOUT_UNITS_PER_MILLIMETER,
                                  QPageSize::Millimeter, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    return paintOn(&writer, preview, 1.0);
+    if (!buffer.open(QIODevice::WriteOnly) || !paintOn(&writer, preview, 1.0))
+        return QByteArray();
+    const QByteArray label = "/CreationDate (D:";
+    const int place = bytes.indexOf(label);
+    if (place >= 0 && !date.isEmpty())
+        bytes.replace(place + label.size(), date.size(), date);
+    return bytes;
 }
 
 struct FormatRow
 {
     const char *ending;
-    bool (*write)(QIODevice *file, const KTPreviewPainter &preview, const QString &title);
+    QByteArray (*draw)(const KTPreviewPainter &preview, const QString &title);
 };
 
 constexpr FormatRow FORMATS[] = {
-    {"svg", &writeSvg},
-    {"png", &writePng},
-    {"pdf", &writePdf},
+    {"svg", &svg},
+    {"png", &png},
+    {"pdf", &pdf},
 };
 
 const FormatRow *formatOf(const QString &fileName)
@@ -86,18 +121,6 @@ const FormatRow *formatOf(const QString &fileName)
             return &row;
     }
     return nullptr;
-}
-
-/** What forbids writing to the file; empty for nothing. */
-QString objectionTo(const QFileInfo &output, const QFileInfo &catalogue)
-{
-    if (!output.exists())
-        return QString();
-    if (!output.isFile())
-        return QStringLiteral("it is no regular file");
-    if (output.canonicalFilePath() == catalogue.canonicalFilePath())
-        return QStringLiteral("it is the catalogue");
-    return QString();
 }
 
 } // namespace
@@ -156,17 +179,15 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
     const auto fail = [&output](const QString &reason) {
         return KTCommandLine::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(output, reason));
     };
-    const QString forbidden = objectionTo(QFileInfo(output), QFileInfo(commandLine.fileName()));
-    if (!forbidden.isEmpty())
-        return fail(forbidden);
+    if (KTFileName::areSame(output, commandLine.fileName()))
+        return fail(QStringLiteral("it is the catalogue"));
     if (QFontDatabase().families().isEmpty())
         return fail(QStringLiteral("no font is installed, so the drawing would have no text"));
-    QSaveFile file(output);
-    if (!file.open(QIODevice::WriteOnly))
-        return fail(file.errorString());
-    if (!format->write(&file, KTPreviewPainter(*model), model->title))
-        return fail(QStringLiteral("the drawing cannot be written"));
-    if (!file.commit())
-        return fail(file.errorString());
+    const QByteArray drawing = format->draw(KTPreviewPainter(*model), model->title);
+    if (drawing.isEmpty())
+        return fail(QStringLiteral("the drawing cannot be made"));
+    const QString error = KTFileName::replaceFile(output, drawing);
+    if (!error.isEmpty())
+        return fail(error);
     return KTExitSuccess;
 }

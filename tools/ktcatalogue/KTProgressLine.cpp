@@ -1,5 +1,6 @@
 #include "KTProgressLine.h"
 
+#include "KTFileName.h"
 #include "KTTerminalText.h"
 
 #include <cstdio>
@@ -22,7 +23,7 @@ KTProgressLine::KTProgressLine(bool isWanted)
 
 void KTProgressLine::show(const QString &text)
 {
-    const QByteArray line = ERASE_LINE + KTTerminalText::visible(text).toUtf8();
+    const QByteArray line = ERASE_LINE + KTFileName::toBytes(KTTerminalText::visible(text));
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
     myIsShown = true;
     myNext = myTimer.elapsed() + STEP_MILLISECONDS;

@@ -11,6 +11,10 @@
 
 namespace {
 
+const QString TEXT_FORMAT = QStringLiteral("text");
+const QString JSON_FORMAT = QStringLiteral("json");
+const QString JSON_BEGIN = QStringLiteral("{\"format\":1,\"articles\":[\n");
+
 /** The document's text without its final line break. */
 QString jsonText(const QJsonObject &object)
 {
@@ -32,11 +36,10 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     const QCommandLineOption pagesOption(
         QStringLiteral("pages"),
         QStringLiteral(
-            "What becomes of a wish for N pages, and how wide the spine is; may be given several times."),
+            "What becomes of a wish for N pages, and how wide the spine is then; may be given several times."),
         QStringLiteral("N"));
-    const QCommandLineOption jsonOption(QStringLiteral("json"),
-                                        QStringLiteral("Prints a JSON array of articles."));
-    commandLine.parser().addOptions({articleOption, pagesOption, jsonOption});
+    commandLine.parser().addOptions({articleOption, pagesOption});
+    commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
@@ -47,7 +50,11 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     if (!pageCounts)
         return KTExitUsage;
 
-    const bool isJson = commandLine.parser().isSet(jsonOption);
+    const std::optional<QString> format = commandLine.format();
+    if (!format)
+        return KTExitUsage;
+
+    const bool isJson = *format == JSON_FORMAT;
     const bool isOneArticle = !wanted->isEmpty();
     KTSpool spool;
     bool isFirst = true;
@@ -57,7 +64,7 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
                   return;
               const KTArticleModel model(article.element());
               if (isJson)
-                  spool.write((isFirst ? QStringLiteral("[\n") : QStringLiteral(",\n"))
+                  spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
                               + jsonText(KTArticleReport::toJSON(model, *pageCounts)));
               else
                   spool.write((isFirst ? QString() : QStringLiteral("\n"))
@@ -69,6 +76,6 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     if (isOneArticle && isFirst)
         return commandLine.failNoArticle(wanted->constLast());
     if (isJson)
-        spool.write(isFirst ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
+        spool.write((isFirst ? JSON_BEGIN : QString()) + QStringLiteral("\n]}\n"));
     return KTCommandLine::deliver(&spool);
 }

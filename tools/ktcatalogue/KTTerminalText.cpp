@@ -1,5 +1,7 @@
 #include "KTTerminalText.h"
 
+#include "KTFileName.h"
+
 namespace {
 
 bool isObeyed(QChar character)
@@ -31,7 +33,7 @@ QString escapedWhere(const QString &text, Predicate isEscaped)
         const QChar character = text.at(i);
         if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
             result.append(character).append(text.at(++i));
-        else if (character.isSurrogate() || isEscaped(character))
+        else if ((character.isSurrogate() && !KTFileName::isRawByte(character)) || isEscaped(character))
             result.append(escaped(character));
         else
             result.append(character);

@@ -15,6 +15,7 @@ _ktcatalogue() {
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
+        show:--format | order:--format) words="text json" ;;
         check:--fail-on) words="error warning hint never" ;;
         check:--color) words="auto always never" ;;
         check:--error | check:--explain | check:--ignore)
@@ -26,12 +27,12 @@ _ktcatalogue() {
         *:-o | *:--output) return ;;
         *)
             case $command:$current in
-            show:-*) words="--article --pages --json" ;;
+            show:-*) words="--article --pages --format --json" ;;
             check:-*)
-                words="--files-from --format --fail-on --ignore --error --pedantic --max-findings --quiet"
+                words="--files-from --format --json --fail-on --ignore --error --pedantic --max-findings --quiet"
                 words+=" --list-rules --explain --color"
                 ;;
-            order:-*) words="--article --pages --choose --json" ;;
+            order:-*) words="--article --pages --choose --format --json" ;;
             preview:-*) words="--article --pages --output -o" ;;
             keywords:-*) words="--format --json" ;;
             keywords:*) words=$("$program" keywords 2>/dev/null | sed -n 's/^\(KT[A-Za-z]*\).*/\1/p') ;;

@@ -1,5 +1,6 @@
 #include "KTCheckCommand.h"
 #include "KTCommandLine.h"
+#include "KTFileName.h"
 #include "KTKeywordsCommand.h"
 #include "KTNearestWord.h"
 #include "KTOrderCommand.h"
@@ -106,5 +107,8 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(&printMessage);
     QCoreApplication::setApplicationName(QStringLiteral("ktcatalogue"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(KT_VERSION));
-    return run(QCoreApplication::arguments().mid(1));
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(KTFileName::fromBytes(argv[i]));
+    return run(arguments);
 }
