@@ -38,10 +38,11 @@ void fill(KTLiteralArticleClasses *table, const Contenders &contenders)
 
 Contenders::Contenders()
 {
-    for (const auto &entry : library.keywordToValue) {
-        const QString written = library.encode(entry.value);
-        keywords.append((written.toLower() == entry.key ? written : entry.key).toLatin1());
-        values.append(entry.value);
+    const auto &read = library.keywordToValue;
+    for (auto entry = read.begin(); entry != read.end(); ++entry) {
+        const QString written = library.encode(*entry);
+        keywords.append((written.toLower() == entry.key() ? written : entry.key()).toLatin1());
+        values.append(*entry);
     }
     fill(&literal, *this);
 }
@@ -148,9 +149,9 @@ void KTBenchmark::addKeywords()
     const Contenders &all = contenders();
     QStringList lower;
     QStringList mixed;
-    for (const auto &entry : all.library.keywordToValue) {
-        lower.append(entry.key);
-        mixed.append(decorated(entry.key));
+    for (const QString &keyword : all.library.keywordToValue.keys()) {
+        lower.append(keyword);
+        mixed.append(decorated(keyword));
     }
     QStringList lists;
     for (int i = 0; i + 5 <= lower.size(); i += 5)
@@ -167,9 +168,10 @@ void KTBenchmark::addKeywords()
 
     QVector<KTArticleClassEnum> values;
     QVector<int> metaValues;
-    for (const auto &entry : all.library.valueToKeyword) {
-        values.append(entry.key);
-        metaValues.append(all.meta.decode(entry.value, UNKNOWN));
+    const auto &written = all.library.valueToKeyword;
+    for (auto entry = written.begin(); entry != written.end(); ++entry) {
+        values.append(entry.key());
+        metaValues.append(all.meta.decode(*entry, UNKNOWN));
     }
     addEncoding("encode one", values, metaValues,
                 [](const auto &contender, auto value) { return contender.encode(value); });

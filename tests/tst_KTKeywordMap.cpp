@@ -6,6 +6,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <iterator>
 
 enum KTSampleEnum : qint64 {};
 
@@ -35,7 +36,7 @@ private Q_SLOTS:
         KTKeywordMap<KTSampleEnum, QString> map;
         map.insert(KTSampleEnum(0), QString(8, u'x'));
         for (int i = 1; i < 100; ++i)
-            map.insert(KTSampleEnum(i), map.begin()->value);
+            map.insert(KTSampleEnum(i), *map.begin());
         QCOMPARE(map.value(KTSampleEnum(99)), QString(8, u'x'));
     }
 
@@ -57,7 +58,7 @@ private Q_SLOTS:
                 text[random.bounded(text.size())] = randomUnit(&random);
 
             const QString lower = text.toLower();
-            const auto *const entry = map.find(KTKeywordText(text));
+            const auto *const entry = map.entryOf(KTKeywordText(text));
             QCOMPARE(entry != nullptr, isAscii(text) && model.contains(lower));
             QVERIFY(!entry || (entry->key == lower && entry->value == model.value(lower)));
             QCOMPARE(KTKeywordText(text).isAscii(), isAscii(text));
@@ -76,12 +77,22 @@ private Q_SLOTS:
         }
         QCOMPARE(map.size(), model.size());
         QCOMPARE(QStringList(map.keys()), order);
-        for (const auto &entry : map)
-            QCOMPARE(entry.value, model.value(entry.key, -1));
+        QList<int> values;
+        for (auto entry = map.begin(); entry != map.end(); ++entry) {
+            QCOMPARE(*entry, model.value(entry.key(), -1));
+            QVERIFY(map.find(entry.key()) == entry && map[entry.key()] == entry.value());
+            values.append(*entry);
+        }
+        QCOMPARE(map.values(), values);
+        const std::pair<QString, int> second = *std::next(map.keyValueBegin());
+        QVERIFY(second.first == order.at(1) && second.second == values.at(1));
+        const QString missing(99, u'x');
+        QVERIFY(map.find(missing) == map.end() && map.count(missing) == 0 && map.key(-1, missing) == missing);
         QCOMPARE(numbers.size(), numberModel.size());
         const auto isOther = [&model](const QString &key) { return model.value(key) != 8; };
         order.erase(std::remove_if(order.begin(), order.end(), isOther), order.end());
         QCOMPARE(QStringList(map.keys(8)), order);
+        QCOMPARE(map.key(8), order.first());
         QVERIFY2(order.size() > 1, "the keys of one value are several");
     }
 };

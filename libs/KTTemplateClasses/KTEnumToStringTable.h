@@ -143,7 +143,7 @@ ENUM KTEnumToStringTable<ENUM>::decodeView(QStringView text, ENUM fallback) cons
     while (first != last && last[-1].isSpace())
         --last;
     const KTKeywordText keyword(QStringView(first, last));
-    const KeywordEntry *entry = keywordToValue.find(keyword);
+    const KeywordEntry *entry = keywordToValue.entryOf(keyword);
     if (!entry && !keyword.isAscii())
         entry = findExactly(QStringView(first, last));
     return entry ? entry->value : fallback;
@@ -154,7 +154,7 @@ template <typename ENUM>
 const typename KTEnumToStringTable<ENUM>::KeywordEntry *
 KTEnumToStringTable<ENUM>::findExactly(QStringView trimmed) const
 {
-    return keywordToValue.find(trimmed.toString().toLower());
+    return keywordToValue.entryOf(trimmed.toString().toLower());
 }
 
 template <typename ENUM>
@@ -194,7 +194,7 @@ QString KTEnumToStringTable<ENUM>::encode(ENUM value) const
 template <typename ENUM>
 const QString &KTEnumToStringTable<ENUM>::keywordOf(ENUM value) const
 {
-    const auto *const entry = valueToKeyword.find(value);
+    const auto *const entry = valueToKeyword.entryOf(value);
     return entry ? entry->value : defaultKeyword;
 }
 

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -107,14 +108,13 @@ private:
 /**
  * A small map from keywords, or from values of an enumeration, that is filled once and then read very often.
  *
- * It reads like a QHash, but keeps its entries in the order of insertion, and a map from keywords can be
- * asked for a KTKeywordText. Keys come from the program, never from a file, so their slots need no random
- * seed.
+ * It is read like a QHash, but keeps its entries in the order of insertion, and a map from keywords can be
+ * asked for a KTKeywordText. Inserting invalidates iterators and pointers to entries. Keys come from the
+ * program, never from a file, so the hash needs no random seed.
  *
- * A slot holds the number of an entry, counted from 1, or 0 when it is free. There are none or a power of two
- * of them, at least twice as many as entries; an entry stands in the first slot, counted from the one that
- * its hash names, that was free when it came. Entries are never removed, so a search ends at the first free
- * slot.
+ * Open addressing with linear probing: a slot holds the number of an entry, counted from 1, or 0 when it is
+ * free. There are none or a power of two of them, at least twice as many as entries. Entries are never
+ * removed, so a search ends at the first free slot.
  */
 template <typename KEY, typename VALUE>
 class Q_DECL_EXPORT KTKeywordMap
@@ -125,29 +125,84 @@ public:
         KEY key;
         VALUE value;
     };
-    using const_iterator = typename std::vector<Entry>::const_iterator;
+    /** As that of a QHash: `*` and `->` give the value. */
+    class const_iterator
+    {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using difference_type = std::ptrdiff_t;
+        using value_type = VALUE;
+        using pointer = const VALUE *;
+        using reference = const VALUE &;
+
+        const_iterator() = default;
+
+        const KEY &key() const { return myEntry->key; }
+        const VALUE &value() const { return myEntry->value; }
+        const VALUE &operator*() const { return myEntry->value; }
+        const VALUE *operator->() const { return &myEntry->value; }
+        const_iterator &operator++()
+        {
+            ++myEntry;
+            return *this;
+        }
+        const_iterator operator++(int) { return const_iterator(myEntry++); }
+        bool operator==(const_iterator other) const { return myEntry == other.myEntry; }
+        bool operator!=(const_iterator other) const { return myEntry != other.myEntry; }
+
+    private:
+        friend class KTKeywordMap;
+        explicit const_iterator(const Entry *entry)
+            : myEntry(entry)
+        {
+        }
+
+        const Entry *myEntry = nullptr;
+    };
+    using key_type = KEY;
+    using mapped_type = VALUE;
+    using const_key_value_iterator = QKeyValueIterator<const KEY &, const VALUE &, const_iterator>;
 
     /** A key that is there keeps its place and gets the new value. */
     void insert(const KEY &key, const VALUE &value);
 
     /** The entry of the key, or null; the key may be a KTKeywordText instead of a keyword in lower case. */
     template <typename QUERY>
-    Q_ALWAYS_INLINE const Entry *find(const QUERY &key) const;
+    Q_ALWAYS_INLINE const Entry *entryOf(const QUERY &key) const;
+    const_iterator find(const KEY &key) const
+    {
+        const Entry *const entry = entryOf(key);
+        return entry ? const_iterator(entry) : end();
+    }
+    const_iterator constFind(const KEY &key) const { return find(key); }
     VALUE value(const KEY &key, const VALUE &defaultValue = VALUE()) const
     {
-        const Entry *const entry = find(key);
+        const Entry *const entry = entryOf(key);
         return entry ? entry->value : defaultValue;
     }
-    bool contains(const KEY &key) const { return find(key) != nullptr; }
+    VALUE operator[](const KEY &key) const { return value(key); }
+    bool contains(const KEY &key) const { return entryOf(key) != nullptr; }
+    int count(const KEY &key) const { return contains(key) ? 1 : 0; }
 
+    /** The first key with this value, in the order of insertion, or the default. */
+    KEY key(const VALUE &value, const KEY &defaultKey = KEY()) const;
     /** All keys, or those with this value, in the order of insertion. */
     QList<KEY> keys() const;
     QList<KEY> keys(const VALUE &value) const;
+    /** The value of each key, in the order of insertion. */
+    QList<VALUE> values() const;
 
     int size() const { return static_cast<int>(myEntries.size()); }
+    int count() const { return size(); }
     bool isEmpty() const { return myEntries.empty(); }
-    const_iterator begin() const { return myEntries.begin(); }
-    const_iterator end() const { return myEntries.end(); }
+    const_iterator begin() const { return const_iterator(myEntries.data()); }
+    const_iterator end() const { return const_iterator(myEntries.data() + myEntries.size()); }
+    const_iterator cbegin() const { return begin(); }
+    const_iterator cend() const { return end(); }
+    const_iterator constBegin() const { return begin(); }
+    const_iterator constEnd() const { return end(); }
+    const_key_value_iterator keyValueBegin() const { return const_key_value_iterator(begin()); }
+    const_key_value_iterator keyValueEnd() const { return const_key_value_iterator(end()); }
 
 private:
     static constexpr std::size_t FIRST_SLOTS = 16;
@@ -169,13 +224,13 @@ private:
 
     std::vector<Entry> myEntries;
     std::vector<quint32> mySlots;
-    // Leaves the highest bits of a hash: as many as number the slots.
+    // 64 - log2(slot count): reduces a hash to the index of a slot.
     int myShift = 64;
 };
 
 template <typename KEY, typename VALUE>
 template <typename QUERY>
-const typename KTKeywordMap<KEY, VALUE>::Entry *KTKeywordMap<KEY, VALUE>::find(const QUERY &key) const
+const typename KTKeywordMap<KEY, VALUE>::Entry *KTKeywordMap<KEY, VALUE>::entryOf(const QUERY &key) const
 {
     if (mySlots.empty())
         return nullptr;
@@ -191,7 +246,7 @@ const typename KTKeywordMap<KEY, VALUE>::Entry *KTKeywordMap<KEY, VALUE>::find(c
 template <typename KEY, typename VALUE>
 void KTKeywordMap<KEY, VALUE>::insert(const KEY &key, const VALUE &value)
 {
-    if (const Entry *const entry = find(key)) {
+    if (const Entry *const entry = entryOf(key)) {
         myEntries[static_cast<std::size_t>(entry - myEntries.data())].value = value;
         return;
     }
@@ -201,6 +256,16 @@ void KTKeywordMap<KEY, VALUE>::insert(const KEY &key, const VALUE &value)
         grow();
     myEntries.push_back(std::move(added));
     occupySlot(myEntries.size());
+}
+
+template <typename KEY, typename VALUE>
+KEY KTKeywordMap<KEY, VALUE>::key(const VALUE &value, const KEY &defaultKey) const
+{
+    for (const Entry &entry : myEntries) {
+        if (entry.value == value)
+            return entry.key;
+    }
+    return defaultKey;
 }
 
 template <typename KEY, typename VALUE>
@@ -221,6 +286,16 @@ QList<KEY> KTKeywordMap<KEY, VALUE>::keys(const VALUE &value) const
         if (entry.value == value)
             result.append(entry.key);
     }
+    return result;
+}
+
+template <typename KEY, typename VALUE>
+QList<VALUE> KTKeywordMap<KEY, VALUE>::values() const
+{
+    QList<VALUE> result;
+    result.reserve(size());
+    for (const Entry &entry : myEntries)
+        result.append(entry.value);
     return result;
 }
 
