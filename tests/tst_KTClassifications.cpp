@@ -1,3 +1,6 @@
+// Callers may let a literal become a text; where 0 could, too, the checks below would not see it otherwise.
+#undef QT_NO_CAST_FROM_ASCII
+
 #include <KTArticleClass.h>
 #include <KTCoverType.h>
 #include <KTDistanceUnit.h>
@@ -20,13 +23,44 @@
 #include <QSet>
 #include <QVariant>
 
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
 namespace {
+
+template <typename CLASS, typename = void>
+constexpr bool READS_ZERO = false;
+template <typename CLASS>
+constexpr bool READS_ZERO<CLASS, std::void_t<decltype(CLASS(0))>> = true;
+template <typename CLASS, typename = void>
+constexpr bool SETS_ZERO = false;
+template <typename CLASS>
+constexpr bool SETS_ZERO<CLASS, std::void_t<decltype(std::declval<CLASS &>().setValue(0))>> = true;
 
 /** What every classification class owes to its callers, whatever its keywords are. */
 template <typename CLASS>
 void check(int keywords, int values, qint64 unknown)
 {
     using Enum = KTTest::Enum<CLASS>;
+    static_assert(!READS_ZERO<CLASS> && !SETS_ZERO<CLASS> && !std::is_constructible_v<CLASS, std::nullptr_t>);
+    static_assert(
+        std::is_convertible_v<
+            Enum,
+            CLASS> && std::is_convertible_v<QString, CLASS> && std::is_constructible_v<CLASS, const char *>);
+    constexpr auto three = static_cast<Enum>(3);
+    constexpr auto six = static_cast<Enum>(6);
+    constexpr Enum combined[] = {three | six, three & six, three ^ six, ~three};
+    static_assert(combined[0] == 7 && combined[1] == 2 && combined[2] == 5 && combined[3] == -4);
+    QVERIFY((CLASS(three) | six) == combined[0] && (CLASS(three) & six) == combined[1]);
+    Enum changed = three;
+    changed = (changed |= six) ^= three;
+    QCOMPARE(qint64(changed &= six), 4);
+    // In the log some write the keyword alone.
+    const bool writesKeyword
+        = std::is_same_v<CLASS, KTArticleClass> || std::is_same_v<CLASS, KTSpaceMagnitude>;
+    QCOMPARE(KTTest::logged(CLASS(three)).contains(CLASS(three).debugText()), !writesKeyword);
+
     const CLASS none;
     QVERIFY(none.isNull());
     QCOMPARE(none.allKnownKeywords().size(), keywords);

@@ -82,8 +82,8 @@ private Q_SLOTS:
             return KTConfiguredArticleVariant(u"k"_s, QString::fromUtf8(value)).isSpotColor(color);
         };
         QVERIFY(isSpotColor("silver", KTSpotColorSilver) && !isSpotColor("Silver", KTSpotColorSilver));
-        QVERIFY(!isSpotColor("gold, silver", static_cast<KTSpotColorEnum>(6))
-                && isSpotColor("", static_cast<KTSpotColorEnum>(6)));
+        QVERIFY(!isSpotColor("gold, silver", KTSpotColorGold | KTSpotColorSilver)
+                && isSpotColor("", KTSpotColorGold | KTSpotColorSilver));
     }
 };
 

@@ -136,14 +136,16 @@ private Q_SLOTS:
 
     void encodes()
     {
-        // As a whole, and bit by bit.
+        // As a whole, bit by bit, and for the log.
         const auto encoded = [](int bits) {
             const auto value = static_cast<KTSampleEnum>(bits);
-            return KTTest::text(sampleTable().encode(value), sampleTable().encodeCSV(value));
+            return KTTest::text(sampleTable().encode(value), sampleTable().encodeCSV(value),
+                                sampleTable().debugText(value));
         };
         KTTest::check<int>(encoded,
-                           {"1 -> Red|Red", "9 -> warm|Red, blue", "3 -> any|Red, GREEN", "5 -> any|Red, any",
-                            "0 -> any|any", "-2147483648 -> any|any", "1073741824 -> any|any"});
+                           {"1 -> Red|Red|Red", "9 -> warm|Red, blue|warm", "3 -> any|Red, GREEN|Red, GREEN",
+                            "13 -> any|Red, any, blue|13", "0 -> any|any|0",
+                            "-2147483648 -> any|any|-2147483648", "1073741824 -> any|any|1073741824"});
     }
 
     void splitsBits()

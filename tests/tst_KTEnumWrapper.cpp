@@ -4,6 +4,8 @@
 #include "KTTestSupport.h"
 
 #include <atomic>
+#include <cstddef>
+#include <cstring>
 #include <stdexcept>
 
 enum KTToyEnum : qint32 { KTToyA = 1, KTToyB = 2, KTToyC = 4 };
@@ -38,12 +40,28 @@ public:
         table->insert(u"b"_s, KTToyB);
     }
 
+    /** Gets the first slot that the wrapper leaves free. */
+    virtual void next() { }
+
     int excluded = 0;
     int expanded = 0;
     static std::atomic<int> fillCount;
 };
 
 std::atomic<int> KTToy::fillCount {0};
+
+namespace {
+
+/** The place of a virtual operation in the table of virtual functions, as pointers to members hold it. */
+template <typename OPERATION>
+std::ptrdiff_t slot(OPERATION operation)
+{
+    std::ptrdiff_t offset;
+    std::memcpy(&offset, &operation, sizeof offset);
+    return (offset - 1) / std::ptrdiff_t(sizeof(void *));
+}
+
+} // namespace
 
 class tst_KTEnumWrapper : public QObject
 {
@@ -94,6 +112,27 @@ private Q_SLOTS:
         QVERIFY(&toy.expandTo(KTToy(1)) == &toy && &(toy &= KTToy(7)) == &toy);
         QCOMPARE(state(), u"7|2|3"_s);
         QCOMPARE(int(toy.reduceTo(static_cast<KTToyEnum>(6)).value()), 6);
+    }
+
+    void keepsItsSlots()
+    {
+        using Toy = KTEnumWrapper<KTToyEnum>;
+        using Asks = bool (Toy::*)(const Toy &) const;
+        using AsksValue = bool (Toy::*)(KTToyEnum) const;
+        using Changes = Toy &(Toy::*)(const Toy &);
+        using ChangesValue = Toy &(Toy::*)(KTToyEnum);
+        using Combines = KTToyEnum (Toy::*)(const Toy &) const;
+        // Behind the two of the destructor.
+        const QString slots = KTTest::text(
+            slot<Asks>(&Toy::operator<), slot<Asks>(&Toy::operator<=), slot<Asks>(&Toy::operator>),
+            slot<Asks>(&Toy::operator==), slot<AsksValue>(&Toy::operator==), slot<Asks>(&Toy::operator!=),
+            slot<AsksValue>(&Toy::operator!=), slot<Changes>(&Toy::operator|=),
+            slot<ChangesValue>(&Toy::operator|=), slot<Changes>(&Toy::operator&=),
+            slot<ChangesValue>(&Toy::operator&=), slot<Combines>(&Toy::operator&),
+            slot<Combines>(&Toy::operator|), slot<Changes>(&Toy::exclude), slot<ChangesValue>(&Toy::exclude),
+            slot<Changes>(&Toy::expandTo), slot<ChangesValue>(&Toy::expandTo), slot(&Toy::reduceTo),
+            slot(&Toy::reducedTo), slot(&Toy::isValid), slot(&Toy::fillTable), slot(&KTToy::next));
+        QCOMPARE(slots, u"2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|20|21|22|23"_s);
     }
 
     void sharesTableAcrossLibraries()

@@ -24,7 +24,7 @@ public:
         ++asked;
         return answer(type);
     }
-    KTProductCheckerType checkerType() override { return static_cast<KTProductCheckerType>(FIRST | SIGN); }
+    KTProductCheckerType checkerType() override { return FIRST | SIGN; }
     bool checkBoxStyle(const KTProductType &, const KTArticleVariants &variants) override
     {
         ++asked;

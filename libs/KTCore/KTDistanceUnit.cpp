@@ -76,5 +76,5 @@ void KTDistanceUnit::fillTable(KTEnumToStringTable<KTDistanceUnitEnum> *table) c
 
 QDebug operator<<(QDebug stream, const KTDistanceUnit &unit)
 {
-    return stream << "KTDistanceUnit:" << unit.encode();
+    return stream << "KTDistanceUnit:" << unit.debugText();
 }

@@ -3,6 +3,7 @@
 #include "ktcore_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -16,6 +17,7 @@ enum KTCORE_EXPORT KTDistanceUnitEnum : qint32 {
     KTDistanceUnitCentimeter = 8,
     KTDistanceUnitPoint = 16,
 };
+KT_DECLARE_FLAG_OPERATORS(KTDistanceUnitEnum)
 
 /** The unit of a length in the catalogue, written "mm", "inch", "cm", "pt" or "layoutunit". */
 class KTCORE_EXPORT KTDistanceUnit : public KTEnumWrapper<KTDistanceUnitEnum>
@@ -26,6 +28,8 @@ public:
     KTDistanceUnit(KTDistanceUnitEnum value);
     /** Reads a unit text; an empty or unknown one gives no unit. */
     KTDistanceUnit(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTDistanceUnit(T) = delete;
 
     /**
      * The length in layout units of so many of this unit. Without exactly one unit the number comes back

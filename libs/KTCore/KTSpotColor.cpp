@@ -39,5 +39,5 @@ void KTSpotColor::fillTable(KTEnumToStringTable<KTSpotColorEnum> *table) const
 
 QDebug operator<<(QDebug stream, const KTSpotColor &color)
 {
-    return stream << "KTSpotColor:" << color.encode();
+    return stream << "KTSpotColor:" << color.debugText();
 }

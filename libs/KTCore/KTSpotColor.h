@@ -3,6 +3,7 @@
 #include "ktcore_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -16,6 +17,7 @@ enum KTCORE_EXPORT KTSpotColorEnum : qint32 {
     KTSpotColorRoseGold = 8,
     KTSpotColorSilverInk = 16,
 };
+KT_DECLARE_FLAG_OPERATORS(KTSpotColorEnum)
 
 /** A spot colour or a union of them, written "gloss", "gold", "silver", "rosegold" and "silverink". */
 class KTCORE_EXPORT KTSpotColor : public KTEnumWrapper<KTSpotColorEnum>
@@ -26,6 +28,8 @@ public:
     KTSpotColor(KTSpotColorEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no spot colour. */
     KTSpotColor(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTSpotColor(T) = delete;
 
     void fillTable(KTEnumToStringTable<KTSpotColorEnum> *table) const override;
 };

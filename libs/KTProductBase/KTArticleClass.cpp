@@ -73,7 +73,7 @@ constexpr KTKeywordRow<KTArticleClassEnum> KEYWORDS[] = {
     {"pre_assembled",             KTArticleClassPreAssembled     },
 };
 
-constexpr qint64 RESERVED = KTArticleClassReserved29 | KTArticleClassReserved30 | KTArticleClassReserved37;
+constexpr auto RESERVED = KTArticleClassReserved29 | KTArticleClassReserved30 | KTArticleClassReserved37;
 static_assert((bitsWithKeyword(KEYWORDS) | RESERVED)
                   == (KTArticleClassArticle | KTArticleClassFee | KTArticleClassAddOn
                       | KTArticleClassPreAssembled),
@@ -93,12 +93,12 @@ constexpr ShippingGroupRow SHIPPING_GROUPS[] = {
 
 struct CategoryRow
 {
-    qint64 kinds;
+    KTArticleClassEnum kinds;
     KTStringLiteral projectCategory;
     const char *name;
 };
 
-constexpr qint64 WALL_DECOR = KTArticleClassDeko | KTArticleClassCanvas;
+constexpr auto WALL_DECOR = KTArticleClassDeko | KTArticleClassCanvas;
 
 // An article belongs to the first category with which it shares a kind.
 constexpr CategoryRow CATEGORIES[] = {
@@ -108,19 +108,20 @@ constexpr CategoryRow CATEGORIES[] = {
     {KTArticleClassCalendar, "calendar",  QT_TRANSLATE_NOOP("QObject", "Kalender")             },
     {KTArticleClassCard,     "card",      QT_TRANSLATE_NOOP("QObject", "Grußkarten")          },
 };
-constexpr CategoryRow OTHER_CATEGORY = {0, "other", QT_TRANSLATE_NOOP("QObject", "Fotogeschenke")};
+constexpr CategoryRow OTHER_CATEGORY
+    = {KTArticleClassNone, "other", QT_TRANSLATE_NOOP("QObject", "Fotogeschenke")};
 
 const CategoryRow &category(const KTArticleClass &articleClass)
 {
     for (const CategoryRow &row : CATEGORIES) {
-        if (articleClass.value() & row.kinds)
+        if (articleClass.matches(row.kinds))
             return row;
     }
     return OTHER_CATEGORY;
 }
 
 // What belongs to one article of its order line, and so can be ordered once in it.
-constexpr qint64 SINGLE_PIECES = KTArticleClassSlipcase | KTArticleClassSpotColorAddOn
+constexpr auto SINGLE_PIECES = KTArticleClassSlipcase | KTArticleClassSpotColorAddOn
     | KTArticleClassFrameAddOn | KTArticleClassFrameConstruction | KTArticleClassReserved29
     | KTArticleClassReserved30 | KTArticleClassWallholderAddOn | KTArticleClassEnvelopeAddOn
     | KTArticleClassMattCoverAddOn | KTArticleClassGiftBoxAddOn | KTArticleClassGiftWrapAddOn
@@ -199,7 +200,7 @@ bool KTArticleClass::canModifyABK() const
 
 int KTArticleClass::maxAmount() const
 {
-    return value() & SINGLE_PIECES ? 1 : std::numeric_limits<int>::max();
+    return matches(SINGLE_PIECES) ? 1 : std::numeric_limits<int>::max();
 }
 
 void KTArticleClass::toTemplates2Format(QDomElement &parent) const

@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -75,6 +76,7 @@ enum KTPRODUCTBASE_EXPORT KTArticleClassEnum : qint64 {
         | KTArticleClassMattCoverAddOn | KTArticleClassGiftBoxAddOn | KTArticleClassGiftWrapAddOn
         | KTArticleClassFlyleafcolor | KTArticleClassReserved37,
 };
+KT_DECLARE_FLAG_OPERATORS(KTArticleClassEnum)
 
 /** What kind of article an order line is: a book, a calendar, a print, a fee, an add-on; or several kinds. */
 class KTPRODUCTBASE_EXPORT KTArticleClass : public KTEnumWrapper<KTArticleClassEnum>
@@ -85,6 +87,8 @@ public:
     KTArticleClass(KTArticleClassEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no class. */
     KTArticleClass(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTArticleClass(T) = delete;
 
     /** The prints that are shipped in the group; no class for any other group. */
     [[nodiscard]] static KTArticleClass createFromShippingGroupId(const KTShippingGroupId &groupId);

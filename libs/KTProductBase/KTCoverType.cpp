@@ -128,10 +128,10 @@ constexpr KTTextRow<KTCoverTypeEnum> FINISHED_COVER_TOOL_TIPS[] = {
 
 // clang-format on
 
-constexpr qint64 FULL_COVERS = KTCoverTypeHardcover | KTCoverTypeSoftcover | KTCoverTypeBooklet;
+constexpr auto FULL_COVERS = KTCoverTypeHardcover | KTCoverTypeSoftcover | KTCoverTypeBooklet;
 
 // On purpose the annual planner is among them, though both its sides are printed; so are gifts and agendas.
-constexpr qint64 SIMPLEX_COVERS = KTCoverTypeCalendarSimplex | KTCoverTypeCalendarOnePage
+constexpr auto SIMPLEX_COVERS = KTCoverTypeCalendarSimplex | KTCoverTypeCalendarOnePage
     | KTCoverTypeCalendarAnnualDuplex | KTCoverTypeGift | KTCoverTypeAgenda;
 
 QString unknownName()
@@ -210,12 +210,12 @@ QString KTCoverType::toolTip() const
 
 bool KTCoverType::isFullCover() const
 {
-    return (value() & FULL_COVERS) != 0;
+    return matches(FULL_COVERS);
 }
 
 bool KTCoverType::isSimplex() const
 {
-    return (value() & SIMPLEX_COVERS) != 0;
+    return matches(SIMPLEX_COVERS);
 }
 
 void KTCoverType::fillTable(KTEnumToStringTable<KTCoverTypeEnum> *table) const
@@ -225,5 +225,5 @@ void KTCoverType::fillTable(KTEnumToStringTable<KTCoverTypeEnum> *table) const
 
 QDebug operator<<(QDebug stream, const KTCoverType &coverType)
 {
-    return stream << "KTCoverType:" << coverType.encode();
+    return stream << "KTCoverType:" << coverType.debugText();
 }

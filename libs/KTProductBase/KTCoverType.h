@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 #include <KTLookUpTable.h>
 
 #include <QMetaType>
@@ -44,6 +45,7 @@ enum KTPRODUCTBASE_EXPORT KTCoverTypeEnum : qint64 {
     KTCoverTypeSet = 0x40000000,
     KTCoverTypeWireO = 0x80000000,
 };
+KT_DECLARE_FLAG_OPERATORS(KTCoverTypeEnum)
 
 /**
  * The cover, binding or material of a product, or several of them.
@@ -59,6 +61,8 @@ public:
     KTCoverType(KTCoverTypeEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no cover type. */
     KTCoverType(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTCoverType(T) = delete;
 
     /**
      * The lowest type whose display name is the translation of the text; none for an unknown name. An empty

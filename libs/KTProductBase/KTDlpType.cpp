@@ -101,5 +101,5 @@ void KTDlpType::fillTable(KTEnumToStringTable<KTDlpTypeEnum> *table) const
 
 QDebug operator<<(QDebug stream, const KTDlpType &dlpType)
 {
-    return stream << "KTDlpType:" << dlpType.encode();
+    return stream << "KTDlpType:" << dlpType.debugText();
 }

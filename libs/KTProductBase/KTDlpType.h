@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -22,6 +23,7 @@ enum KTPRODUCTBASE_EXPORT KTDlpTypeEnum : qint32 {
     /** May accompany a kind; directories and queries ignore it, and it has no keyword. */
     KTDlpTypeReserved9 = 0x200,
 };
+KT_DECLARE_FLAG_OPERATORS(KTDlpTypeEnum)
 
 /** The kind of a piece of downloadable design content, or several kinds. */
 class KTPRODUCTBASE_EXPORT KTDlpType : public KTEnumWrapper<KTDlpTypeEnum>
@@ -32,6 +34,8 @@ public:
     KTDlpType(KTDlpTypeEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no kind. */
     KTDlpType(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTDlpType(T) = delete;
 
     /** The display name of exactly one kind, translated; empty where there is none. */
     QString visibleName() const;

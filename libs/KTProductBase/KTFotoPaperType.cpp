@@ -81,5 +81,5 @@ void KTFotoPaperType::fillTable(KTEnumToStringTable<KTFotoPaperTypeEnum> *table)
 
 QDebug operator<<(QDebug stream, const KTFotoPaperType &paperType)
 {
-    return stream << "KTFotoPaperType:" << paperType.encode();
+    return stream << "KTFotoPaperType:" << paperType.debugText();
 }

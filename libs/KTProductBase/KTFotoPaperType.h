@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -15,6 +16,7 @@ enum KTPRODUCTBASE_EXPORT KTFotoPaperTypeEnum : qint32 {
     KTFotoPaperTypeGlossy = 1,
     KTFotoPaperTypeMatt = 2,
 };
+KT_DECLARE_FLAG_OPERATORS(KTFotoPaperTypeEnum)
 
 /** The surface of a photo print. It is written as the number of its value. */
 class KTPRODUCTBASE_EXPORT KTFotoPaperType : public KTEnumWrapper<KTFotoPaperTypeEnum>
@@ -25,6 +27,8 @@ public:
     KTFotoPaperType(KTFotoPaperTypeEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give an unknown surface. */
     KTFotoPaperType(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTFotoPaperType(T) = delete;
 
     /** Reads a decimal number: 1 and 2 are one surface, 0 is both, glossy first; anything else is none. */
     [[nodiscard]] static QList<KTFotoPaperType> createFromXTCI(const QString &text);

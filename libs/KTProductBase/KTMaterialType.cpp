@@ -40,5 +40,5 @@ void KTMaterialType::fillTable(KTEnumToStringTable<KTMaterialTypeEnum> *table) c
 
 QDebug operator<<(QDebug stream, const KTMaterialType &materialType)
 {
-    return stream << "KTMaterialType:" << materialType.encode();
+    return stream << "KTMaterialType:" << materialType.debugText();
 }

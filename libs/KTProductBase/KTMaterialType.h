@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -17,6 +18,7 @@ enum KTPRODUCTBASE_EXPORT KTMaterialTypeEnum : qint64 {
     KTMaterialTypeRetroPrint = 0x10,
     KTMaterialTypePictureBundle = 0x20,
 };
+KT_DECLARE_FLAG_OPERATORS(KTMaterialTypeEnum)
 
 /** What a gift is made of, or several materials. */
 class KTPRODUCTBASE_EXPORT KTMaterialType : public KTEnumWrapper<KTMaterialTypeEnum>
@@ -27,6 +29,8 @@ public:
     KTMaterialType(KTMaterialTypeEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no material. */
     KTMaterialType(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTMaterialType(T) = delete;
 
     void fillTable(KTEnumToStringTable<KTMaterialTypeEnum> *table) const override;
 };

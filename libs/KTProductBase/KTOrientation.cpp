@@ -61,13 +61,13 @@ constexpr RatioRow RATIOS[] = {
 
 struct BasicRow
 {
-    qint32 value;
+    KTOrientationEnum value;
     KTOrientationEnum basic;
 };
 
 // What suits nothing in particular, or everything, is laid out as portrait.
 constexpr BasicRow BASICS[] = {
-    {0,                                                   KTOrientationPortrait },
+    {NO_ORIENTATION,                                      KTOrientationPortrait },
     {KTOrientationPortrait,                               KTOrientationPortrait },
     {KTOrientationPortraitSlim,                           KTOrientationPortrait },
     {KTOrientationPortrait | KTOrientationPortraitSlim,   KTOrientationPortrait },
@@ -77,7 +77,7 @@ constexpr BasicRow BASICS[] = {
     {KTOrientationLandscape | KTOrientationLandscapeSlim, KTOrientationLandscape},
     {KTOrientationSquare,                                 KTOrientationSquare   },
 };
-constexpr BasicRow NO_BASIC = {0, NO_ORIENTATION};
+constexpr BasicRow NO_BASIC = {NO_ORIENTATION, NO_ORIENTATION};
 
 struct FoldRow
 {
@@ -160,12 +160,12 @@ QString KTOrientation::humanReadable() const
 
 bool KTOrientation::isPortrait() const
 {
-    return matches(KTOrientationPortrait) || matches(KTOrientationPortraitSlim);
+    return matches(KTOrientationPortrait | KTOrientationPortraitSlim);
 }
 
 bool KTOrientation::isLandscape() const
 {
-    return matches(KTOrientationLandscape) || matches(KTOrientationLandscapeSlim);
+    return matches(KTOrientationLandscape | KTOrientationLandscapeSlim);
 }
 
 bool KTOrientation::isQuadratic() const
@@ -215,5 +215,5 @@ void KTOrientation::fillTable(KTEnumToStringTable<KTOrientationEnum> *table) con
 
 QDebug operator<<(QDebug stream, const KTOrientation &orientation)
 {
-    return stream << "KTOrientation:" << orientation.encode();
+    return stream << "KTOrientation:" << orientation.debugText();
 }

@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -22,6 +23,7 @@ enum KTPRODUCTBASE_EXPORT KTOrientationEnum : qint32 {
     KTOrientationAll = KTOrientationPortrait | KTOrientationLandscape | KTOrientationSquare
         | KTOrientationPortraitSlim | KTOrientationLandscapeSlim,
 };
+KT_DECLARE_FLAG_OPERATORS(KTOrientationEnum)
 
 /** The format of a product or page, or the formats that something suits; a size without a keyword has one
  * too.
@@ -34,8 +36,12 @@ public:
     KTOrientation(KTOrientationEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no orientation. */
     KTOrientation(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTOrientation(T) = delete;
     /** Reads the text, or derives from the size if that gives no orientation. */
     KTOrientation(const QString &text, const QSizeF &size);
+    template <typename T, typename = KTNoClassification<T>>
+    KTOrientation(T, const QSizeF &) = delete;
     /** Derives from the size, as fromSize() does. */
     KTOrientation(const QSizeF &size);
 

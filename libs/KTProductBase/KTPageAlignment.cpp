@@ -91,5 +91,5 @@ void KTPageAlignment::fillTable(KTEnumToStringTable<KTPageAlignmentEnum> *table)
 
 QDebug operator<<(QDebug stream, const KTPageAlignment &alignment)
 {
-    return stream << "KTPageAlignment:" << alignment.encode();
+    return stream << "KTPageAlignment:" << alignment.debugText();
 }

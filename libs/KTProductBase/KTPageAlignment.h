@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -19,6 +20,7 @@ enum KTPRODUCTBASE_EXPORT KTPageAlignmentEnum : qint32 {
     KTPageAlignmentBottom = 32,
     KTPageAlignmentCenter = 64,
 };
+KT_DECLARE_FLAG_OPERATORS(KTPageAlignmentEnum)
 
 /** Where on a spread or cover something is placed, and so the name of the production file of one side. */
 class KTPRODUCTBASE_EXPORT KTPageAlignment : public KTEnumWrapper<KTPageAlignmentEnum>
@@ -29,6 +31,8 @@ public:
     KTPageAlignment(KTPageAlignmentEnum value);
     /** Reads a comma-separated list; an empty text and unknown words are left. */
     KTPageAlignment(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTPageAlignment(T) = delete;
 
     /**
      * "_left.pdf" or "_right.pdf" for exactly that side if the sides are produced apart, else "_center.pdf".

@@ -26,7 +26,7 @@ constexpr KTTextRow<KTPageBindingEnum> NAMES[] = {
     {KTPageBindingStapled, QT_TRANSLATE_NOOP("KTPageBinding", "Rückstichbindung")     },
 };
 
-constexpr qint32 COMMON_BINDINGS = KTPageBindingGlue | KTPageBindingLayflat | KTPageBindingStapled;
+constexpr auto COMMON_BINDINGS = KTPageBindingGlue | KTPageBindingLayflat | KTPageBindingStapled;
 
 constexpr KTStringLiteral PAGE_BINDING_TAG = "pageBinding";
 
@@ -67,7 +67,7 @@ QString KTPageBinding::humanReadableName() const
 void KTPageBinding::toTemplates2Format(QDomElement &element) const
 {
     // A template without a binding is good for the common ones.
-    if (isNull() || (value() & COMMON_BINDINGS))
+    if (isNull() || matches(COMMON_BINDINGS))
         return;
     KTXMLBuilder::buildDomElement(element, PAGE_BINDING_TAG, encodeCSV());
 }
@@ -79,5 +79,5 @@ void KTPageBinding::fillTable(KTEnumToStringTable<KTPageBindingEnum> *table) con
 
 QDebug operator<<(QDebug stream, const KTPageBinding &binding)
 {
-    return stream << "KTPageBinding:" << binding.encode();
+    return stream << "KTPageBinding:" << binding.debugText();
 }

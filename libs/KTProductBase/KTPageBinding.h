@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 #include <KTLookUpTable.h>
 
 #include <QMetaType>
@@ -18,6 +19,7 @@ enum KTPRODUCTBASE_EXPORT KTPageBindingEnum : qint32 {
     KTPageBindingStapled = 4,
     KTPageBindingSpiral = 8,
 };
+KT_DECLARE_FLAG_OPERATORS(KTPageBindingEnum)
 
 /** How the pages of a product are bound, or the bindings that something suits. */
 class KTPRODUCTBASE_EXPORT KTPageBinding : public KTEnumWrapper<KTPageBindingEnum>
@@ -28,6 +30,8 @@ public:
     KTPageBinding(KTPageBindingEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give an unknown binding. */
     KTPageBinding(const QString &keywords);
+    template <typename T, typename = KTNoClassification<T>>
+    KTPageBinding(T) = delete;
 
     /** Builds a table of the display names, which the caller owns. */
     [[nodiscard]] static KTLookUpTable<KTPageBinding, QString> *initPageBindingNames();

@@ -78,14 +78,13 @@ constexpr RuleRow OTHER_RULES = {NO_KIND, 1, 0x1c00, -1, 7, 3};
 // Of the rules only the order looks into a union.
 constexpr RuleRow OTHER_COVER_RULES = {NO_KIND, 1, 0x1c00, 0, 7, 3};
 
-constexpr qint32 COVER_PARTS
-    = KTPageTypeSpine | KTPageTypeFullcover | KTPageTypeCromolinen | KTPageTypeLeather;
-constexpr qint32 FABRICS = KTPageTypeCromolinen | KTPageTypeLeather;
-constexpr qint32 FINISHED_PAGES = KTPageTypeFullcover | KTPageTypeCardfront;
+constexpr auto COVER_PARTS = KTPageTypeSpine | KTPageTypeFullcover | KTPageTypeCromolinen | KTPageTypeLeather;
+constexpr auto FABRICS = KTPageTypeCromolinen | KTPageTypeLeather;
+constexpr auto FINISHED_PAGES = KTPageTypeFullcover | KTPageTypeCardfront;
 
 const RuleRow &rules(const KTPageType &pageType)
 {
-    return rowOf(RULES, pageType.value(), pageType.value() & COVER_PARTS ? OTHER_COVER_RULES : OTHER_RULES);
+    return rowOf(RULES, pageType.value(), pageType.matches(COVER_PARTS) ? OTHER_COVER_RULES : OTHER_RULES);
 }
 
 } // namespace
@@ -114,9 +113,9 @@ KTEnumWrapper<KTPageTypeEnum> &KTPageType::expandToKeyword(const QString &keywor
 bool KTPageType::isSpotColorAllowed(const QList<KTSpotColor> &colors) const
 {
     const bool hasSilverInk = colors.contains(KTSpotColorSilverInk);
-    if (value() & FABRICS)
+    if (matches(FABRICS))
         return !hasSilverInk && !colors.contains(KTSpotColorGloss);
-    return hasSilverInk || (value() & FINISHED_PAGES);
+    return hasSilverInk || matches(FINISHED_PAGES);
 }
 
 int KTPageType::productionRenderingRule() const
@@ -151,5 +150,5 @@ void KTPageType::fillTable(KTEnumToStringTable<KTPageTypeEnum> *table) const
 
 QDebug operator<<(QDebug stream, const KTPageType &pageType)
 {
-    return stream << "KTPageType:" << pageType.encode();
+    return stream << "KTPageType:" << pageType.debugText();
 }

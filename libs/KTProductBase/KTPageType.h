@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -44,6 +45,7 @@ enum KTPRODUCTBASE_EXPORT KTPageTypeEnum : qint32 {
         | KTPageTypeCalendarcoverback | KTPageTypeCromolinen | KTPageTypeLeather | KTPageTypeSlipcasepages,
     KTPageTypeAll = KTPageTypeCover | KTPageTypeEmptypage | KTPageTypeNormalpage,
 };
+KT_DECLARE_FLAG_OPERATORS(KTPageTypeEnum)
 
 /**
  * The kind of a layout page, or several kinds, and the rules for it.
@@ -59,6 +61,8 @@ public:
     KTPageType(KTPageTypeEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no kind. */
     KTPageType(const QString &keywords);
+    template <typename T, typename = KTNoClassification<T>>
+    KTPageType(T) = delete;
 
     /** Adds the kinds of a comma-separated list. */
     KTEnumWrapper<KTPageTypeEnum> &expandToKeyword(const QString &keywords);

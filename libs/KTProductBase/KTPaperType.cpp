@@ -91,5 +91,5 @@ void KTPaperType::fillTable(KTEnumToStringTable<KTPaperTypeEnum> *table) const
 
 QDebug operator<<(QDebug stream, const KTPaperType &paperType)
 {
-    return stream << "KTPaperType:" << paperType.encode();
+    return stream << "KTPaperType:" << paperType.debugText();
 }

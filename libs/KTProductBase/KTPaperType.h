@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 #include <KTLookUpTable.h>
 
 #include <QMetaType>
@@ -21,6 +22,7 @@ enum KTPRODUCTBASE_EXPORT KTPaperTypeEnum : qint32 {
     KTPaperTypePremiumMatt = 0x40,
     KTPaperTypeRecycled = 0x80,
 };
+KT_DECLARE_FLAG_OPERATORS(KTPaperTypeEnum)
 
 /** The paper of a printed product, or the papers that something suits. */
 class KTPRODUCTBASE_EXPORT KTPaperType : public KTEnumWrapper<KTPaperTypeEnum>
@@ -31,6 +33,8 @@ public:
     KTPaperType(KTPaperTypeEnum value);
     /** Reads a comma-separated list; an empty text and unknown words are indigo, the standard paper. */
     KTPaperType(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTPaperType(T) = delete;
 
     /** The lowest paper whose display name is the translation of the text; unknown for any other text. */
     [[nodiscard]] static KTPaperType createFromHumanReadable(const QString &name);

@@ -39,5 +39,5 @@ void KTProductArrangement::fillTable(KTEnumToStringTable<KTProductArrangementEnu
 
 QDebug operator<<(QDebug stream, const KTProductArrangement &arrangement)
 {
-    return stream << "KTProductArrangement:" << arrangement.encode();
+    return stream << "KTProductArrangement:" << arrangement.debugText();
 }

@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 
 #include <QMetaType>
 
@@ -17,6 +18,7 @@ enum KTPRODUCTBASE_EXPORT KTProductArrangementEnum : qint32 {
     KTProductArrangementPhotobook = 16,
     KTProductArrangementCalendar = 32,
 };
+KT_DECLARE_FLAG_OPERATORS(KTProductArrangementEnum)
 
 /** The family as which a product is arranged, or several of them. */
 class KTPRODUCTBASE_EXPORT KTProductArrangement : public KTEnumWrapper<KTProductArrangementEnum>
@@ -27,6 +29,8 @@ public:
     KTProductArrangement(KTProductArrangementEnum value);
     /** Reads a comma-separated list; an empty text or unknown words give no family. */
     KTProductArrangement(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTProductArrangement(T) = delete;
 
     void fillTable(KTEnumToStringTable<KTProductArrangementEnum> *table) const override;
 };

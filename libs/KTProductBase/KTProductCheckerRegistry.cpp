@@ -4,19 +4,6 @@
 
 #include <QMutexLocker>
 
-#include <type_traits>
-
-namespace {
-
-bool haveCommonBit(KTProductCheckerType first, KTProductCheckerType second)
-{
-    // Unsigned, because a mask may use the sign bit.
-    using Unsigned = std::make_unsigned_t<std::underlying_type_t<KTProductCheckerType>>;
-    return (static_cast<Unsigned>(first) & static_cast<Unsigned>(second)) != 0;
-}
-
-} // namespace
-
 KTProductCheckerRegistry::KTProductCheckerRegistry() = default;
 KTProductCheckerRegistry::~KTProductCheckerRegistry() = default;
 
@@ -80,7 +67,7 @@ bool KTProductCheckerRegistry::allAgree(KTProductCheckerType checkerType, Questi
     for (KTProductChecker *const checker : checkers) {
         if (!myCheckers.contains(checker))
             continue;
-        if (haveCommonBit(checker->checkerType(), checkerType) && !question(checker))
+        if ((checker->checkerType() & checkerType) && !question(checker))
             return false;
     }
     return true;

@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
+#include <KTFlagOperators.h>
 #include <KTLookUpTable.h>
 
 #include <QMetaType>
@@ -33,6 +34,7 @@ enum KTPRODUCTBASE_EXPORT KTSpaceMagnitudeEnum : qint32 {
     KTSpaceMagnitudeAny
     = KTSpaceMagnitude50cm2 | KTSpaceMagnitude150cm2 | KTSpaceMagnitudeNormal | KTSpaceMagnitudeXL,
 };
+KT_DECLARE_FLAG_OPERATORS(KTSpaceMagnitudeEnum)
 
 /**
  * The size class of a page by its area, or the classes that something suits.
@@ -47,6 +49,8 @@ public:
     KTSpaceMagnitude(KTSpaceMagnitudeEnum value);
     /** Reads a comma-separated list; an empty text and unknown words are all classes. */
     KTSpaceMagnitude(const QString &text);
+    template <typename T, typename = KTNoClassification<T>>
+    KTSpaceMagnitude(T) = delete;
 
     /** The class of an area; the smallest one for 0 and negative areas. */
     [[nodiscard]] static KTSpaceMagnitude fromSquareCentimeters(int area);

@@ -55,6 +55,11 @@ public:
     QStringList encodeAsList(ENUM value) const;
     /** encodeAsList() joined by ", ", or defaultKeyword for a value without bits. */
     QString encodeCSV(ENUM value) const;
+    /**
+     * For logs: the written keyword of exactly this value; else those of its bits, joined by ", ", if there
+     * is one for each bit; else the number.
+     */
+    QString debugText(ENUM value) const;
 
     /** Each bit of the value; empty for a value below 1. */
     QSet<ENUM> splitToBits(ENUM value) const;
@@ -219,6 +224,17 @@ QString KTEnumToStringTable<ENUM>::encodeCSV(ENUM value) const
     if (count == 0)
         return defaultKeyword;
     return count == 1 ? *keywords[0] : joined(keywords.data(), keywords.data() + count);
+}
+
+template <typename ENUM>
+QString KTEnumToStringTable<ENUM>::debugText(ENUM value) const
+{
+    if (valueToKeyword.contains(value))
+        return encode(value);
+    bool hasKeywords = value > 0;
+    for (const ENUM bit : Bits(value))
+        hasKeywords = hasKeywords && valueToKeyword.contains(bit);
+    return hasKeywords ? encodeCSV(value) : QString::number(static_cast<qint64>(value));
 }
 
 /** The texts with ", " between them, in one allocation; there is at least one. */

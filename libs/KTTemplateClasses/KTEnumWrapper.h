@@ -8,14 +8,23 @@
 #include <QtAlgorithms>
 
 #include <memory>
+#include <type_traits>
+
+/**
+ * What no classification is made of, numbers and nullptr: a literal 0 would be read as a null text, and so
+ * give the default of its keywords. Constructors and setValue() over these types are deleted.
+ */
+template <typename T>
+using KTNoClassification = std::enable_if_t<std::is_arithmetic_v<T> || std::is_null_pointer_v<T>>;
 
 /**
  * The base of every classification: one flag value of ENUM with its bit operations, comparisons and keywords.
  *
  * The value is a single bit, a union of bits, or 0 ("null"); comparisons are signed. A classification derives
- * from the wrapper of its own enumeration, offers constructors from the enumeration and from text, and
- * overrides fillTable() alone. The keyword table exists once per enumeration and process; it is built, under
- * a lock, by whichever object asks first. Objects themselves are plain values of one thread.
+ * from the wrapper of its own enumeration, offers constructors from the enumeration and from text, deletes
+ * the one from what is KTNoClassification, and overrides fillTable() alone. The keyword table exists once per
+ * enumeration and process; it is built, under a lock, by whichever object asks first. Objects themselves are
+ * plain values of one thread.
  */
 template <typename ENUM>
 class Q_DECL_EXPORT KTEnumWrapper
@@ -62,10 +71,15 @@ public:
     /** Inserts the enumeration's keywords and sets the table's defaults; called once per process. */
     virtual void fillTable(KTEnumToStringTable<ENUM> *table) const = 0;
 
+    ENUM operator&(ENUM other) const { return common(other); }
+    ENUM operator|(ENUM other) const { return static_cast<ENUM>(myValue | other); }
+
     ENUM value() const { return myValue; }
     void setValue(ENUM value) { myValue = value; }
     /** Sets the value that decodeCSV() reads from the text. */
     void setValue(const QString &text) { myValue = decodeCSV(text); }
+    template <typename T, typename = KTNoClassification<T>>
+    void setValue(T) = delete;
 
     /** @name Keywords: see KTEnumToStringTable; the decoders do not change the object */
     /** @{ */
@@ -78,6 +92,7 @@ public:
     QString encode() const { return enumToStringTable()->encode(myValue); }
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(myValue); }
     QStringList encodeBits() const { return enumToStringTable()->encodeAsList(myValue); }
+    QString debugText() const { return enumToStringTable()->debugText(myValue); }
     QStringList allKnownKeywords() const { return enumToStringTable()->allKnownKeywords(); }
     /** Every value that has a written keyword, in no stated order. */
     QList<ENUM> allKnownEnumValues() const { return enumToStringTable()->valueToKeyword.keys(); }
@@ -101,7 +116,7 @@ public:
     /** The number of set bits, 0 for a value below 1. */
     int countBits() const;
     bool hasExactlyOneBit() const { return countBits() == 1; }
-    /** True when more than one bit is set; the callers' code spells the name so. */
+    /** True when more than one bit is set. The misspelling is part of the API. */
     bool isConglumerate() const { return countBits() > 1; }
     /** Adds or removes the bits of the argument. */
     void setBit(ENUM bit, bool on);

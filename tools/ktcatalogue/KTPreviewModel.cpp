@@ -19,8 +19,8 @@ constexpr int COVER_PAGE = 0;
 
 // The first kind that an article has is what its preview shows; any page is better than none.
 constexpr KTPageTypeEnum COVER_KINDS[] = {
-    static_cast<KTPageTypeEnum>(KTPageTypeFullcover | KTPageTypeCromolinen | KTPageTypeLeather),
-    static_cast<KTPageTypeEnum>(KTPageTypeCalendarcoverfront | KTPageTypeCardfront),
+    KTPageTypeFullcover | KTPageTypeCromolinen | KTPageTypeLeather,
+    KTPageTypeCalendarcoverfront | KTPageTypeCardfront,
 };
 
 using Page = KTArticleModel::Page;
