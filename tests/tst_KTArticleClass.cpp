@@ -84,6 +84,7 @@ private Q_SLOTS:
         QCOMPARE(written(list.filter(KTArticleClassPuzzle)), u"gift"_s);
         QVERIFY(list.filter(KTArticleClassNone).isEmpty());
         QVERIFY(KTArticleClassList::parseArticleClasses(u",,"_s).isEmpty());
+        QCOMPARE(written(list.mid(3)), written({KTArticleClassGift, KTArticleClassBook}));
     }
 };
 

@@ -70,13 +70,15 @@ private Q_SLOTS:
                             "6324 -> -|-|+", "6512 -> -|-|+", "6513 -> -|+|+", "6514 -> -|+|+",
                             "6515 -> -|-|+", "0 -> -|-|-", "-1 -> -|-|-"});
         QCOMPARE(qHash(KTArticleId(-8), 5u), uint(-8) ^ 5u);
+        QCOMPARE(std::hash<KTArticleId>()(-8), std::size_t(uint(-8)));
     }
 
     void extendsSets()
     {
         const KTArticleIdSet one(QSet<KTArticleId> {1});
-        const KTArticleIdSet two(QSet<KTArticleId> {1, 2});
-        const KTArticleIdSet other(QSet<KTArticleId> {3});
+        const KTArticleIdSet two {1, 2};
+        const KTArticleIdSet other = KTArticleIdSet {1, 3} - one;
+        QCOMPARE(KTArticleIdList(KTArticleIdList({3, 2, 1}).mid(1)), KTArticleIdList({2, 1}));
         QVERIFY(two.extends(one) && two.extends(two) && two.extends(KTArticleIdSet()));
         QVERIFY(!one.extends(two) && !two.extends(other) && !KTArticleIdSet().extends(one));
     }

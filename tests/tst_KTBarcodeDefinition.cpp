@@ -14,6 +14,8 @@
 using KTTest::toInt;
 using KTTest::Wide;
 
+using List = KTBarcodeDefinitionList;
+
 namespace {
 
 constexpr char dummy[] = "dummy-barcode.png";
@@ -42,14 +44,6 @@ QByteArray icon(const QByteArray &png)
     stream << quint16(0) << quint16(1) << quint16(1) << quint8(16) << quint8(16) << quint16(0) << quint16(1)
            << quint16(32) << quint32(png.size()) << quint32(22);
     return file + png;
-}
-
-KTBarcodeDefinitionList list(std::initializer_list<KTBarcodeDefinition> definitions)
-{
-    KTBarcodeDefinitionList result;
-    for (const KTBarcodeDefinition &entry : definitions)
-        result.append(entry);
-    return result;
 }
 
 /** The merge as it is written down. */
@@ -111,8 +105,8 @@ private Q_SLOTS:
         const KTDistanceUnit unit(KTDistanceUnitLayout);
         const KTBarcodeDefinitionList read = KTBarcodeDefinitionList::createFromProductsXML(element, unit);
         const KTBarcodeDefinition second = definition({1, 0, 1, 1}, 2, dummy);
-        QCOMPARE(read, list({definition(second.rect(), 1, dummy), second}));
-        QCOMPARE(read.barcodesOnPage(2), list({second}));
+        QCOMPARE(read, List({definition(second.rect(), 1, dummy), second}));
+        QCOMPARE(read.barcodesOnPage(2), List({second}));
         QVERIFY(read.barcodesOnPage(0).isEmpty());
         for (const QDomElement &other : {element, QDomElement()})
             QVERIFY(KTBarcodeDefinitionList::createFromXTCI(other, unit).isEmpty());
@@ -160,13 +154,14 @@ private Q_SLOTS:
               definition({5, 5, 5, 5}, 4, "m"), definition({5, 5, 5, 5}, 5, "l"), bothWays}) {
             QVERIFY(less < middle && (middle < less) == (less == bothWays));
             QVERIFY(less != middle && qHash(less) != qHash(middle));
-            QVERIFY(list({less, less}) < list({middle, middle}));
-            QVERIFY(!(list({less, middle}) < list({middle, middle})));
-            QVERIFY(list({middle}) < list({less, less}) && !(list({less, less}) < list({middle})));
+            QVERIFY(List({less, less}) < List({middle, middle}));
+            QVERIFY(!(List({less, middle}) < List({middle, middle})));
+            QVERIFY(List(List({less, middle}).mid(1)) < List({less, less})
+                    && !(List({less, less}) < List({middle})));
         }
         const KTBarcodeDefinition same = definition(middle.rect(), 5, "m");
         QVERIFY(same == middle && qHash(same) == qHash(middle) && !(same < middle));
-        QVERIFY(list({}) < list({middle}) && !(list({}) < list({})));
+        QVERIFY(List({}) < List({middle}) && !(List({}) < List({})));
     }
 
     void agreesWithTheModel()
@@ -250,8 +245,8 @@ private Q_SLOTS:
         QCOMPARE(late.image().size(), QSize(3, 4));
         // From now on the image is kept, by the copies too.
         QVERIFY(QFile::remove(icons.filePath(u"late.png"_s)));
-        QCOMPARE(list({late}).findDefinition(late.rect()).image().size(), QSize(3, 4));
-        QCOMPARE(list({late}).findDefinition(QRect(0, 0, 1, 2)), KTBarcodeDefinition());
+        QCOMPARE(List({late}).findDefinition(late.rect()).image().size(), QSize(3, 4));
+        QCOMPARE(List({late}).findDefinition(QRect(0, 0, 1, 2)), KTBarcodeDefinition());
         QCOMPARE(late, definition(late.rect(), 0, "late.png"));
 
         QVERIFY(save(u"most.png"_s, QSize(8000, 8000)));

@@ -3,6 +3,7 @@
 
 #include <KTArticleClass.h>
 #include <KTCoverType.h>
+#include <KTDirectoryName.h>
 #include <KTDistanceUnit.h>
 #include <KTDlpType.h>
 #include <KTFotoPaperType.h>
@@ -228,6 +229,7 @@ private Q_SLOTS:
              "0x40 -> ||style_v2|64 | storybook", "0x202 -> styles|styles|style_v2|514 | ",
              "0x200 -> |||512 | ", "0x248 -> ||style_v2|584 | ", "0x18 -> |||24 | "});
         QVERIFY(KTDlpType(KTDlpTypeLayoutcollection).visibleName().isEmpty());
+        QCOMPARE(KTTest::logged(KTDirectoryName(KTDirectoryNameStyles)), u"KTDirectoryName: \"styles\" "_s);
     }
 
     void alignmentNamesProductionFiles()

@@ -44,6 +44,16 @@ private Q_SLOTS:
         KTConfiguredArticleVariantList list = sample();
         list.readVariants(KTTest::element(u"<article><forms/></article>"_s));
         QVERIFY(list.isEmpty() && KTConfiguredArticleVariantList(QDomElement()).isEmpty());
+        // Braces do not make options of what an option or its list is read from, and only valid ones are
+        // kept.
+        const KTConfiguredArticleVariant red(u"alcolor:red"_s);
+        const QList<KTConfiguredArticleVariant> mixed = {KTConfiguredArticleVariant(), red};
+        QCOMPARE(texts({red, KTConfiguredArticleVariant()}), u"alcolor:red"_s);
+        QCOMPARE(texts(mixed) + texts(mixed.mid(0, 1)), u"alcolor:red"_s);
+        QCOMPARE(texts(KTConfiguredArticleVariantList({u"alcolor"_s, u"red"_s})), u"alcolor:red"_s);
+        const KTConfiguredArticleVariantList braced {
+            KTTest::element(u"<a key='k' value='v'><forms><form key='alcolor' value='red'/></forms></a>"_s)};
+        QCOMPARE(texts(braced), u"alcolor:red"_s);
         QCOMPARE(KTTest::logged(offer(u"a:1,b:2"_s)),
                  u"KTConfiguredArticleVariantList: [ 0 :  \"KTConfiguredArticleVariant: key: a value: 1 \" "
                  "1 :  \"KTConfiguredArticleVariant: key: b value: 2 \"  ] "_s);

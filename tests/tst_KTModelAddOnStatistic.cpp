@@ -28,9 +28,9 @@ private Q_SLOTS:
 
     void keepsAddOnsApart()
     {
-        const KTContentStatistic content(0, 0, QMap<KTPriceClass, int>());
-        QCOMPARE(KTModelAddOnStatistic(content).videoAddOn().toString(), u"VDO1"_s);
-        KTModelAddOnStatistic statistic(content, KTPriceClass(), u"FOP1"_s);
+        QCOMPARE(KTTest::logged(KTModelAddOnStatistic()),
+                 u"KTModelAddOnStatistic: KTContentStatistic: 0 0 QMap() \"VDO1\" \"\" \"\" \"\" "_s);
+        KTModelAddOnStatistic statistic(KTContentStatistic(), KTPriceClass(), u"FOP1"_s);
         statistic.setFlyLeafAddOn(u"FLF1"_s, KTArticleVariants(u"flyleafcolor:red"_s));
         statistic.setDesignStyleAddOns({u"91"_s});
         QCOMPARE(KTTest::text(statistic.videoAddOn().toString(), statistic.spotColorAddOn().toString(),

@@ -37,6 +37,8 @@ private Q_SLOTS:
     {
         KTOrderProjectInfo mark = KTOrderProjectInfo::createDeletingProjetInfo();
         QVERIFY(mark.deleteProjectInfo() && mark.xtciSession().isNull() && !mark.orderId().isValid());
+        const KTOrderProjectInfo none;
+        QVERIFY(!none.deleteProjectInfo() && KTTest::streamed(none) == KTTest::streamed(mark));
         mark.setOrderId(u"A"_s);
         QVERIFY(!mark.isValid() && mark.orderId().isValid() && mark.orderPosition() == 0);
     }
@@ -46,8 +48,11 @@ private Q_SLOTS:
         const KTOrderId order(u"a-_-"_s);
         const KTOrderId later(u"b"_s);
         QCOMPARE(order.toString(true) + order.toString(false), u"a___a-_-"_s);
-        QCOMPARE((KTOrderIdList {later, KTOrderId(), order, KTOrderId(u""_s)}).toString(), u"b,a-_-,"_s);
+        const KTOrderIdList ids = KTOrderIdList({order, later, KTOrderId(), order, u""_s}).mid(1);
+        QCOMPARE(ids.toString(), u"b,a-_-,"_s);
         QVERIFY(order < later && later > order && order <= order && order >= order && order != later);
+        QVERIFY(qHash(order, 5u) == qHash(u"a-_-"_s, 5u) && qHash(KTOrderId(), 5u) == qHash(ids.last(), 5u));
+        QCOMPARE(std::hash<KTOrderId>()(order), std::size_t(qHash(order)));
     }
 };
 

@@ -29,6 +29,7 @@ private Q_SLOTS:
                        "0x0 -> 0|+|+", "10x0 -> 16|+|+", "0x10 -> 8|+|+", "-10x10 -> 0|+|+",
                        "10x-10 -> 0|+|+", "nanx10 -> 2|+|+"});
         QCOMPARE(square.value(), KTOrientationSquare);
+        QCOMPARE(KTTest::logged(KTAngle(-1.5)), u"KTAngle: -1.5 "_s);
         QCOMPARE(KTOrientation::createFromPageTilt(-0.0).value(), KTOrientationLandscape);
         QCOMPARE(KTOrientation::createFromPageTilt(90).value(), KTOrientationPortrait);
     }

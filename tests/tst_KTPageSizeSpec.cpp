@@ -29,6 +29,7 @@ private Q_SLOTS:
         QCOMPARE(spec.topLeftOffsetOfUsablePrintArea(), QPoint(3, 1));
         QCOMPARE(margins.bottomRight(), QPoint(4, 2));
         QCOMPARE(KTMargins(3, 5).totalMarginWH(), QSize(10, 6));
+        QVERIFY(KTPageSizeSpec() == KTPageSizeSpec(QSize(), KTMargins()) && !KTPageContext().isValid());
         for (const int a : KTTest::INTS) {
             for (const int b : KTTest::INTS) {
                 const KTMargins sides(a, b, b, a);
@@ -92,7 +93,10 @@ private Q_SLOTS:
         const KTPageSizeKey key(KTPageTypeCover, 24);
         const KTPageSizeKey other(KTPageTypeCover, 26);
         QVERIFY(!(key < other) && !(other < key) && key != other && key == KTPageSizeKey(key));
+        QVERIFY(qHash(key, 5u) == qHash(KTPageSizeKey(KTPageTypeCover, 24), 5u)
+                && qHash(key) != qHash(other));
         const KTPageSizeKey page(KTPageTypeNormalpage, 24);
+        QVERIFY(qHash(key) != qHash(page) && KTPageSizeKey() == KTPageSizeKey(KTPageType(), 0));
         QVERIFY(!(page < key) && !(key < page) && page != key && page < other && !(other < page));
         QVERIFY(key.isValid() && KTPageSizeKey(KTPageTypeCover, 0).isValid());
         QVERIFY(!KTPageSizeKey(KTPageTypeCover, -1).isValid() && !KTPageSizeKey(KTPageType(), 1).isValid());

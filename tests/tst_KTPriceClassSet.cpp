@@ -37,6 +37,11 @@ private Q_SLOTS:
         const KTPriceClassSet two {code, code, QString()};
         QVERIFY(two.size() == 2 && two.contains(code) && two.contains(u""_s));
         QCOMPARE(KTPriceClassSet(KTPriceClass()).size(), 1);
+        QVERIFY(KTPriceClassSet({KTPriceClass(), code}) == two && KTPriceClassSet({}).isEmpty());
+        const KTPriceClassSet rest = two - KTPriceClassSet(code);
+        QVERIFY(rest == KTPriceClassSet({KTPriceClass()})
+                && KTPriceClassSet(QSet<KTPriceClass>(rest)) == rest);
+        QCOMPARE(std::hash<KTPriceClass>()(code), std::size_t(qHash(code)));
         const bool emptyFirst = two.begin()->isEmpty();
         QCOMPARE(two.toString(), emptyFirst ? u",FOP1"_s : u"FOP1,"_s);
         QCOMPARE(KTTest::logged(two), emptyFirst ? u"\"\" \"FOP1\" "_s : u"\"FOP1\" \"\" "_s);

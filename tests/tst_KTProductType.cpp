@@ -79,6 +79,8 @@ private Q_SLOTS:
             QVERIFY2(type != calendar, code);
             QCOMPARE(type < calendar, type.calcHashValue() < calendar.calcHashValue());
         }
+        QCOMPARE(KTTest::logged(calendar), u"\"CAL29\" "_s);
+        QCOMPARE(std::hash<KTProductType>()(calendar), std::size_t(calendar.calcHashValue()));
         for (const QString &letters : {u"xX"_s, u"xy"_s}) {
             const QPair<QString, QString> codes = collision(letters);
             QCOMPARE(KTProductType(codes.first) == KTProductType(codes.second), letters == u"xX"_s);
@@ -102,6 +104,7 @@ private Q_SLOTS:
         list.addWithoutDoubles(KTProductType(QString()));
         list.addWithoutDoubles(list);
         QCOMPARE(list.size(), 7);
+        QCOMPARE(KTProductTypeList(list.mid(5)), KTProductTypeList({KTProductType(u"C"_s), KTProductType()}));
         QCOMPARE(recorder.messages().size(), 2);
         const KTMessageRecorder::Message message = recorder.messages().first();
         QCOMPARE(message.text, u"there is no \"UNKNOWN\""_s);

@@ -1,6 +1,10 @@
 #pragma once
 
-#include <QTypeInfo>
+#include "ktcore_export.h"
+
+#include <QMetaType>
+
+class QDebug;
 
 /** An angle in degrees. Any number is kept as it is: 360 is not 0. */
 class KTAngle
@@ -25,3 +29,5 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTAngle, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTAngle)
+KTCORE_EXPORT QDebug operator<<(QDebug stream, const KTAngle &angle);

@@ -2,6 +2,8 @@
 
 #include <KTKeywordRow.h>
 
+#include <QDebug>
+
 namespace {
 
 constexpr KTKeywordRow<KTDirectoryNameEnum> NAMES[] = {
@@ -23,4 +25,9 @@ QString KTDirectoryName::name() const
             return row.keyword;
     }
     return QString();
+}
+
+QDebug operator<<(QDebug stream, const KTDirectoryName &directory)
+{
+    return stream << "KTDirectoryName:" << directory.name();
 }

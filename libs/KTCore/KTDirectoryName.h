@@ -2,9 +2,10 @@
 
 #include "ktcore_export.h"
 
-#include <QTypeInfo>
+#include <QMetaType>
+#include <QString>
 
-class QString;
+class QDebug;
 
 /** The kinds of content directories; 0 is none. */
 enum KTCORE_EXPORT KTDirectoryNameEnum : qint32 {
@@ -40,3 +41,5 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTDirectoryName, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTDirectoryName)
+KTCORE_EXPORT QDebug operator<<(QDebug stream, const KTDirectoryName &directory);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "KTDistanceUnit.h"
 #include "ktcore_export.h"
 
-#include <QTypeInfo>
+#include <QMetaType>
 
-class KTDistanceUnit;
 class QDebug;
 
 /** A length, held in layout units (0.1 mm). Any finite or infinite number is kept as it is. */
@@ -48,4 +48,5 @@ inline KTDistance operator*(KTDistance distance, double factor)
 }
 
 Q_DECLARE_TYPEINFO(KTDistance, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTDistance)
 KTCORE_EXPORT QDebug operator<<(QDebug stream, const KTDistance &distance);

@@ -4,9 +4,8 @@
 
 #include <KTSingleton.h>
 
+#include <QFont>
 #include <QString>
-
-class QFont;
 
 /** Makes the fonts of the layout. Measuring them needs a QGuiApplication, see canMeasure(). */
 class KTCORE_EXPORT KTFontCreator : public KTSingleton<KTFontCreator>

@@ -2,8 +2,8 @@
 
 #include "ktcore_export.h"
 
-class QColor;
-class QString;
+#include <QColor>
+#include <QString>
 
 /** Colours as the dialogs show them. */
 class KTCORE_EXPORT KTNamedColor

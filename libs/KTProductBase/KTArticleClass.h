@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTShippingGroupId.h"
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
@@ -7,7 +8,6 @@
 
 #include <QMetaType>
 
-class KTShippingGroupId;
 class QDebug;
 class QDomElement;
 

@@ -2,7 +2,10 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTStdHash.h>
+
 #include <QMetaType>
+#include <QString>
 #include <QtGlobal>
 
 class QDataStream;
@@ -10,7 +13,6 @@ class QDebug;
 class QDomElement;
 class QDomNamedNodeMap;
 class QJsonObject;
-class QString;
 
 /**
  * The number that names an article of the catalogue; 0 and negative numbers name none.
@@ -87,6 +89,7 @@ inline uint qHash(const KTArticleId &articleId, uint seed = 0)
 {
     return static_cast<uint>(articleId.id()) ^ seed;
 }
+KT_DECLARE_STD_HASH(KTArticleId)
 
 /** Writes the decimal text as a string. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTArticleId &articleId);

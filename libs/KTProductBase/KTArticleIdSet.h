@@ -5,13 +5,20 @@
 #include <QMetaType>
 #include <QSet>
 
-/** Article ids without order and without doubles. */
+#include <utility>
+
+/** Article ids without order and without duplicates. */
 class KTPRODUCTBASE_EXPORT KTArticleIdSet : public QSet<KTArticleId>
 {
 public:
+    using QSet<KTArticleId>::QSet;
     KTArticleIdSet() = default;
     /** Shares the data of the set. */
     KTArticleIdSet(const QSet<KTArticleId> &other);
+    KTArticleIdSet(QSet<KTArticleId> &&other) noexcept
+        : QSet<KTArticleId>(std::move(other))
+    {
+    }
     KTArticleIdSet(const KTArticleIdSet &other) = default;
     KTArticleIdSet(KTArticleIdSet &&other) noexcept = default;
     KTArticleIdSet &operator=(const KTArticleIdSet &other) = default;

@@ -5,11 +5,22 @@
 #include <QList>
 #include <QMetaType>
 
+#include <utility>
+
 /** Sets of options in the order they were added. */
 class KTPRODUCTBASE_EXPORT KTArticleVariantsList : public QList<KTArticleVariants>
 {
 public:
+    using QList<KTArticleVariants>::QList;
     KTArticleVariantsList() = default;
+    KTArticleVariantsList(const QList<KTArticleVariants> &variants)
+        : QList<KTArticleVariants>(variants)
+    {
+    }
+    KTArticleVariantsList(QList<KTArticleVariants> &&variants) noexcept
+        : QList<KTArticleVariants>(std::move(variants))
+    {
+    }
     KTArticleVariantsList(const KTArticleVariantsList &other) = default;
     KTArticleVariantsList(KTArticleVariantsList &&other) noexcept = default;
     KTArticleVariantsList &operator=(const KTArticleVariantsList &other) = default;

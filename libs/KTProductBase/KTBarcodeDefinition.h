@@ -2,12 +2,13 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTDistanceUnit.h>
+
 #include <QImage>
 #include <QMetaType>
 #include <QRect>
 #include <QString>
 
-class KTDistanceUnit;
 class QDebug;
 class QDomElement;
 

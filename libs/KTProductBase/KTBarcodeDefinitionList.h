@@ -3,14 +3,25 @@
 #include "KTBarcodeDefinition.h"
 
 #include <QList>
+#include <QRegion>
 
-class QRegion;
+#include <utility>
 
 /** The production barcodes of a product, in the order they were read or merged. */
 class KTPRODUCTBASE_EXPORT KTBarcodeDefinitionList : public QList<KTBarcodeDefinition>
 {
 public:
+    using QList<KTBarcodeDefinition>::QList;
     KTBarcodeDefinitionList() = default;
+    /** Invalid entries are kept. */
+    KTBarcodeDefinitionList(const QList<KTBarcodeDefinition> &definitions)
+        : QList<KTBarcodeDefinition>(definitions)
+    {
+    }
+    KTBarcodeDefinitionList(QList<KTBarcodeDefinition> &&definitions) noexcept
+        : QList<KTBarcodeDefinition>(std::move(definitions))
+    {
+    }
     KTBarcodeDefinitionList(const KTBarcodeDefinitionList &other) = default;
     KTBarcodeDefinitionList(KTBarcodeDefinitionList &&other) noexcept = default;
     KTBarcodeDefinitionList &operator=(const KTBarcodeDefinitionList &other) = default;

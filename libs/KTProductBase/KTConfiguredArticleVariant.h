@@ -2,11 +2,12 @@
 
 #include "KTArticleVariants.h"
 
+#include <KTSpotColor.h>
+
 #include <QColor>
 #include <QSharedDataPointer>
 
 class KTConfiguredArticleVariantImpl;
-class KTSpotColor;
 
 /**
  * One option as the catalogue offers it: key and value for the order, and what the dialogs show for them.

@@ -229,6 +229,14 @@ void KTConfiguredArticleVariantList::appendIfValid(const KTConfiguredArticleVari
         append(variant);
 }
 
+void KTConfiguredArticleVariantList::removeInvalid()
+{
+    const auto isInvalid = [](const KTConfiguredArticleVariant &variant) { return !variant.isValid(); };
+    // Asked first, so that a list without invalid options goes on sharing its data.
+    if (std::any_of(cbegin(), cend(), isInvalid))
+        erase(std::remove_if(begin(), end(), isInvalid), end());
+}
+
 QDebug operator<<(QDebug stream, const KTConfiguredArticleVariantList &variants)
 {
     stream << "KTConfiguredArticleVariantList: [";

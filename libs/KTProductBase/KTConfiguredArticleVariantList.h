@@ -5,6 +5,10 @@
 
 #include <QList>
 
+#include <initializer_list>
+#include <type_traits>
+#include <utility>
+
 /**
  * The options that the catalogue offers for one article, in the order of their source.
  *
@@ -13,11 +17,36 @@
  */
 class KTPRODUCTBASE_EXPORT KTConfiguredArticleVariantList : public QList<KTConfiguredArticleVariant>
 {
+    template <typename T>
+    using IfOption = std::enable_if_t<std::is_same_v<T, KTConfiguredArticleVariant>>;
+
 public:
     KTConfiguredArticleVariantList() = default;
     /** See readVariants(). */
     KTConfiguredArticleVariantList(const QDomElement &element);
     KTConfiguredArticleVariantList(const KTConfiguredArticleVariant &variant);
+    /**
+     * The valid ones of several options. Templates, so that braces around an element, or around key and
+     * value, go on meaning the constructors above.
+     */
+    template <typename T, typename = IfOption<T>>
+    KTConfiguredArticleVariantList(const QList<T> &variants)
+        : QList<KTConfiguredArticleVariant>(variants)
+    {
+        removeInvalid();
+    }
+    template <typename T, typename = IfOption<T>>
+    KTConfiguredArticleVariantList(QList<T> &&variants)
+        : QList<KTConfiguredArticleVariant>(std::move(variants))
+    {
+        removeInvalid();
+    }
+    template <typename T, typename = IfOption<T>>
+    KTConfiguredArticleVariantList(std::initializer_list<T> variants)
+        : QList<KTConfiguredArticleVariant>(variants)
+    {
+        removeInvalid();
+    }
     KTConfiguredArticleVariantList(const KTConfiguredArticleVariantList &other) = default;
     KTConfiguredArticleVariantList(KTConfiguredArticleVariantList &&other) noexcept = default;
     KTConfiguredArticleVariantList &operator=(const KTConfiguredArticleVariantList &other) = default;
@@ -81,6 +110,7 @@ private:
     KTConfiguredArticleVariant firstWhere(Predicate predicate) const;
 
     void appendIfValid(const KTConfiguredArticleVariant &variant);
+    void removeInvalid();
 };
 
 Q_DECLARE_METATYPE(KTConfiguredArticleVariantList)

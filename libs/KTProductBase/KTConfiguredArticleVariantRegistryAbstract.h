@@ -1,8 +1,7 @@
 #pragma once
 
+#include "KTArticleId.h"
 #include "KTConfiguredArticleVariantList.h"
-
-class KTArticleId;
 
 /** Where the application keeps the options of its articles; this library only names the interface. */
 class KTPRODUCTBASE_EXPORT KTConfiguredArticleVariantRegistryAbstract

@@ -3,6 +3,7 @@
 #include "KTPriceClass.h"
 
 #include <QMap>
+#include <QMetaType>
 
 class QDebug;
 
@@ -10,6 +11,8 @@ class QDebug;
 class KTPRODUCTBASE_EXPORT KTContentStatistic
 {
 public:
+    /** Nothing that is charged. */
+    KTContentStatistic() = default;
     /** Nothing is checked; the map gives the amount of each price class bought. */
     KTContentStatistic(int countGeoMapAreas, int countVideoAreas,
                        const QMap<KTPriceClass, int> &boughtAdditionalContent);
@@ -33,10 +36,11 @@ public:
     void adaptFromOrToVario(bool first, bool second);
 
 private:
-    int myCountGeoMapAreas;
-    int myCountVideoAreas;
+    int myCountGeoMapAreas = 0;
+    int myCountVideoAreas = 0;
     QMap<KTPriceClass, int> myBoughtAdditionalContent;
 };
 
+Q_DECLARE_METATYPE(KTContentStatistic)
 /** Writes the class name and the fields in their order. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTContentStatistic &statistic);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTArticleClass.h"
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
@@ -7,7 +8,6 @@
 
 #include <QMetaType>
 
-class KTArticleClass;
 class QDebug;
 
 /** Surfaces of photo prints. */

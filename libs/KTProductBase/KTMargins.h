@@ -4,11 +4,11 @@
 
 #include <QExplicitlySharedDataPointer>
 #include <QMetaType>
+#include <QPoint>
+#include <QSize>
 
 class KTMarginsImpl;
 class QDebug;
-class QPoint;
-class QSize;
 
 /**
  * The margins around a page, in layout units.

@@ -8,6 +8,11 @@ namespace {
 constexpr KTStringLiteral DEFAULT_VIDEO_ADD_ON = "VDO1";
 }
 
+KTModelAddOnStatistic::KTModelAddOnStatistic()
+    : KTModelAddOnStatistic(KTContentStatistic())
+{
+}
+
 KTModelAddOnStatistic::KTModelAddOnStatistic(const KTContentStatistic &contentStatistic)
     : KTModelAddOnStatistic(contentStatistic, KTPriceClass(DEFAULT_VIDEO_ADD_ON), KTPriceClass())
 {

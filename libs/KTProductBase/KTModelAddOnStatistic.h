@@ -4,12 +4,16 @@
 #include "KTContentStatistic.h"
 #include "KTPriceClassSet.h"
 
+#include <QMetaType>
+
 class QDebug;
 
 /** The chargeable content of a product together with the add-ons chosen for the product as a whole. */
 class KTPRODUCTBASE_EXPORT KTModelAddOnStatistic
 {
 public:
+    /** No content; videos are billed by "VDO1", and there are no further add-ons. */
+    KTModelAddOnStatistic();
     /** Videos are billed by "VDO1"; there are no further add-ons. */
     KTModelAddOnStatistic(const KTContentStatistic &contentStatistic);
     KTModelAddOnStatistic(const KTContentStatistic &contentStatistic, const KTPriceClass &videoAddOn,
@@ -51,5 +55,6 @@ private:
     KTPriceClassSet myDesignStyleAddOns;
 };
 
+Q_DECLARE_METATYPE(KTModelAddOnStatistic)
 /** Writes the class name and the fields in their order. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTModelAddOnStatistic &statistic);

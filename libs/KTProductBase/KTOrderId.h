@@ -2,6 +2,9 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTStdHash.h>
+
+#include <QHash>
 #include <QMetaType>
 #include <QString>
 
@@ -48,6 +51,13 @@ private:
 };
 
 Q_DECLARE_METATYPE(KTOrderId)
+
+/** The hash of the text with the same seed. */
+inline uint qHash(const KTOrderId &orderId, uint seed = 0)
+{
+    return qHash(orderId.toString(false), seed);
+}
+KT_DECLARE_STD_HASH(KTOrderId)
 
 /** Writes the text as a string. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTOrderId &orderId);

@@ -6,6 +6,8 @@
 class KTPRODUCTBASE_EXPORT KTOrderProjectInfo
 {
 public:
+    /** Nothing known: no session, no order, position 0; not valid, and not the mark. */
+    KTOrderProjectInfo() = default;
     /** The transfer session that sent the project, its order, and its position there, counted from 0. */
     KTOrderProjectInfo(const QString &xtciSession, const KTOrderId &orderId, int orderPosition);
     KTOrderProjectInfo(const KTOrderProjectInfo &other) = default;
@@ -33,9 +35,10 @@ public:
 private:
     QString myXtciSession;
     KTOrderId myOrderId;
-    int myOrderPosition;
+    int myOrderPosition = 0;
     bool myDeleteProjectInfo = false;
 };
 
+Q_DECLARE_METATYPE(KTOrderProjectInfo)
 /** Writes the order's text, the position and the session. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTOrderProjectInfo &info);

@@ -2,15 +2,15 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTAngle.h>
 #include <KTEnumWrapper.h>
 #include <KTFlagOperators.h>
 
 #include <QMetaType>
+#include <QSizeF>
 
-class KTAngle;
 class QDebug;
 class QDomElement;
-class QSizeF;
 
 /** The formats of a page. */
 enum KTPRODUCTBASE_EXPORT KTOrientationEnum : qint32 {

@@ -7,6 +7,8 @@
 class KTPRODUCTBASE_EXPORT KTPageContext
 {
 public:
+    /** Neither page type nor alignment: not valid. */
+    KTPageContext() = default;
     KTPageContext(const KTPageType &pageType, const KTPageAlignment &alignment);
     KTPageContext(const KTPageContext &other) = default;
     KTPageContext(KTPageContext &&other) noexcept = default;
@@ -39,5 +41,13 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTPageContext, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTPageContext)
+
+/** Hashes what equality compares. */
+inline uint qHash(const KTPageContext &context, uint seed = 0)
+{
+    return qHash(context.pageType(), qHash(context.alignment(), seed));
+}
+
 /** Writes dump() without quotes. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTPageContext &context);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "KTPageCountOrganization.h"
-
-class KTProductType;
+#include "KTProductType.h"
 
 /** How the application finds the page counts of a product type. */
 class KTPRODUCTBASE_EXPORT KTPageOrganizationCalculator

@@ -7,6 +7,11 @@ namespace {
 constexpr auto ALL_ALIGNMENTS = static_cast<KTPageAlignmentEnum>(127);
 } // namespace
 
+KTPageSizeKey::KTPageSizeKey()
+    : KTPageSizeKey(KTPageType(), 0)
+{
+}
+
 KTPageSizeKey::KTPageSizeKey(const KTPageType &pageType, int pageCount)
     : myPageContext(pageType, ALL_ALIGNMENTS)
     , myPageCount(pageCount)

@@ -6,6 +6,8 @@
 class KTPRODUCTBASE_EXPORT KTPageSizeKey
 {
 public:
+    /** No page type, page count 0: not valid. */
+    KTPageSizeKey();
     /** The context gets every alignment, so that it matches any. */
     KTPageSizeKey(const KTPageType &pageType, int pageCount);
     KTPageSizeKey(const KTPageSizeKey &other) = default;
@@ -38,5 +40,13 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTPageSizeKey, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTPageSizeKey)
+
+/** Hashes what equality compares. */
+inline uint qHash(const KTPageSizeKey &key, uint seed = 0)
+{
+    return qHash(key.pageCount(), qHash(key.pageContext(), seed));
+}
+
 /** Writes dump() without quotes, and a space. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTPageSizeKey &key);

@@ -2,6 +2,7 @@
 
 #include "KTMargins.h"
 
+#include <QMetaType>
 #include <QPoint>
 #include <QPointF>
 #include <QSize>
@@ -14,6 +15,8 @@
 class KTPRODUCTBASE_EXPORT KTPageSizeSpec
 {
 public:
+    /** No size: usable size and slipcase cover are (-1, -1), without bleed. */
+    KTPageSizeSpec() = default;
     /** The slipcase cover has no size yet. */
     KTPageSizeSpec(const QSize &usableSize, const KTMargins &bleedMargins);
 
@@ -42,5 +45,6 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTPageSizeSpec, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTPageSizeSpec)
 /** Writes "{ usable=", the usable size, ", 4Scaling" and the slipcase cover size; no brace closes it. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTPageSizeSpec &spec);

@@ -4,10 +4,10 @@
 
 #include <KTEnumWrapper.h>
 #include <KTFlagOperators.h>
+#include <KTSpotColor.h>
 
 #include <QMetaType>
 
-class KTSpotColor;
 class QDebug;
 
 /** Kinds of layout pages. */

@@ -2,6 +2,8 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTStdHash.h>
+
 #include <QHash>
 #include <QMetaType>
 #include <QString>
@@ -45,6 +47,7 @@ inline uint qHash(const KTPriceClass &priceClass, uint seed = 0)
 {
     return qHash(priceClass.toString(), seed);
 }
+KT_DECLARE_STD_HASH(KTPriceClass)
 
 /** Writes the code as a string. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTPriceClass &priceClass);

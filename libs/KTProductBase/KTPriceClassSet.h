@@ -2,11 +2,13 @@
 
 #include "KTPriceClass.h"
 
+#include <KTSpotColor.h>
+
 #include <QSet>
 
 #include <initializer_list>
-
-class KTSpotColor;
+#include <type_traits>
+#include <utility>
 
 /**
  * Price classes without order and without doubles, and the catalogue's fixed groups of them.
@@ -22,6 +24,20 @@ public:
     KTPriceClassSet(const KTPriceClass &priceClass);
     /** A price class for each code; an empty code gives the empty price class. */
     KTPriceClassSet(std::initializer_list<QString> codes);
+    /** A template, so that empty braces still stand for no codes. */
+    template <typename T, typename = std::enable_if_t<std::is_same_v<T, KTPriceClass>>>
+    KTPriceClassSet(std::initializer_list<T> priceClasses)
+        : QSet<KTPriceClass>(priceClasses)
+    {
+    }
+    KTPriceClassSet(const QSet<KTPriceClass> &priceClasses)
+        : QSet<KTPriceClass>(priceClasses)
+    {
+    }
+    KTPriceClassSet(QSet<KTPriceClass> &&priceClasses) noexcept
+        : QSet<KTPriceClass>(std::move(priceClasses))
+    {
+    }
     KTPriceClassSet(const KTPriceClassSet &other) = default;
     KTPriceClassSet(KTPriceClassSet &&other) noexcept = default;
     KTPriceClassSet &operator=(const KTPriceClassSet &other) = default;

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "KTArticleVariants.h"
 #include "KTProductCheckerType.h"
-
-class KTArticleVariants;
-class KTProductType;
+#include "KTProductType.h"
 
 /**
  * Says whether a product may be offered or ordered; the application implements it.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTArticleVariants.h"
 #include "KTProductCheckerType.h"
 #include "KTProductType.h"
 
@@ -10,7 +11,6 @@
 #include <QPair>
 #include <QRecursiveMutex>
 
-class KTArticleVariants;
 class KTProductChecker;
 
 /**

@@ -5,6 +5,7 @@
 #include <KTStringLiteral.h>
 #include <KTXMLParser.h>
 
+#include <QDebug>
 #include <QDomElement>
 #include <QHash>
 #include <QRegularExpression>
@@ -79,4 +80,9 @@ bool KTProductType::operator==(const KTProductType &other) const
 bool KTProductType::operator<(const KTProductType &other) const
 {
     return myHashValue == other.myHashValue ? myCode < other.myCode : myHashValue < other.myHashValue;
+}
+
+QDebug operator<<(QDebug stream, const KTProductType &type)
+{
+    return stream << type.toString();
 }

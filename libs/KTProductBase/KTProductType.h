@@ -1,11 +1,14 @@
 #pragma once
 
+#include "KTPriceClass.h"
 #include "ktproductbase_export.h"
 
-#include <QString>
-#include <QTypeInfo>
+#include <KTStdHash.h>
 
-class KTPriceClass;
+#include <QMetaType>
+#include <QString>
+
+class QDebug;
 class QDomElement;
 
 /**
@@ -22,7 +25,7 @@ public:
      * first such place. Any other code, and one that is not valid UTF-16, stays as it is. A code with "A" can
      * be read until main() returns, as Qt's regular expressions can.
      */
-    KTProductType(const QString &code);
+    KTProductType(const QString &code = QString());
     // Declared so that there is no move, which would leave behind a hash without its code.
     KTProductType(const KTProductType &other) = default;
     KTProductType &operator=(const KTProductType &other) = default;
@@ -61,8 +64,13 @@ private:
 };
 
 Q_DECLARE_TYPEINFO(KTProductType, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(KTProductType)
 
 inline uint qHash(const KTProductType &type, uint seed = 0)
 {
     return type.calcHashValue() ^ seed;
 }
+KT_DECLARE_STD_HASH(KTProductType)
+
+/** Writes the code as a string. */
+KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTProductType &type);

@@ -6,13 +6,27 @@
 #include <QMetaType>
 #include <QStringList>
 
+#include <initializer_list>
+#include <type_traits>
+#include <utility>
+
 /** Product types in the order they were added; one may stand in it twice. */
 class KTPRODUCTBASE_EXPORT KTProductTypeList : public QList<KTProductType>
 {
 public:
     KTProductTypeList() = default;
     KTProductTypeList(const QList<KTProductType> &types);
-    /** A product type for each code; empty ones are skipped, doubles kept. */
+    KTProductTypeList(QList<KTProductType> &&types) noexcept
+        : QList<KTProductType>(std::move(types))
+    {
+    }
+    /** The same. A template, so that it takes no list of texts: that is one of codes. */
+    template <typename T, typename = std::enable_if_t<std::is_same_v<T, KTProductType>>>
+    KTProductTypeList(std::initializer_list<T> types)
+        : QList<KTProductType>(types)
+    {
+    }
+    /** A product type for each code; empty ones are skipped, duplicates kept. */
     KTProductTypeList(const QStringList &codes);
 
     /** Reads codes separated by ","; they are not trimmed. */

@@ -2,7 +2,10 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTStdHash.h>
+
 #include <QMetaType>
+#include <QString>
 #include <QtGlobal>
 
 class QDataStream;
@@ -10,7 +13,6 @@ class QDebug;
 class QDomElement;
 class QDomNamedNodeMap;
 class QJsonObject;
-class QString;
 
 /**
  * The number of a group of articles that are shipped together. -1 is no group; every other number is one,
@@ -78,6 +80,7 @@ inline uint qHash(const KTShippingGroupId &groupId, uint seed = 0)
 {
     return static_cast<uint>(groupId.id()) ^ seed;
 }
+KT_DECLARE_STD_HASH(KTShippingGroupId)
 
 /** Writes the decimal text as a string. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTShippingGroupId &groupId);

@@ -5,12 +5,19 @@
 #include <QList>
 #include <QMetaType>
 
+#include <utility>
+
 /** Shipping groups in the order they were added; one may stand in it twice. */
 class KTPRODUCTBASE_EXPORT KTShippingGroupIdList : public QList<KTShippingGroupId>
 {
 public:
+    using QList<KTShippingGroupId>::QList;
     KTShippingGroupIdList() = default;
     KTShippingGroupIdList(const QList<KTShippingGroupId> &groupIds);
+    KTShippingGroupIdList(QList<KTShippingGroupId> &&groupIds) noexcept
+        : QList<KTShippingGroupId>(std::move(groupIds))
+    {
+    }
     /** One group for each number, in order; a -1 becomes an invalid element. */
     KTShippingGroupIdList(const QList<int> &ids);
     KTShippingGroupIdList(const KTShippingGroupIdList &other) = default;

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "KTOrientation.h"
 #include "ktproductbase_export.h"
 
 #include <KTEnumWrapper.h>
 #include <KTFlagOperators.h>
 #include <KTLookUpTable.h>
 
+#include <QFont>
 #include <QMetaType>
 
-class KTOrientation;
 class QDebug;
-class QFont;
 
 /** Size classes of a page, named after their area. */
 enum KTPRODUCTBASE_EXPORT KTSpaceMagnitudeEnum : qint32 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTPageCountOrganization.h"
 #include "ktproductbase_export.h"
 
 #include <KTDistance.h>
@@ -8,7 +9,6 @@
 #include <QMetaType>
 #include <QString>
 
-class KTPageCountOrganization;
 class KTSpineConfigImpl;
 class QDebug;
 class QDomElement;

@@ -14,8 +14,9 @@ template <typename K, typename V>
 class Q_DECL_EXPORT KTLookUpTable
 {
 public:
-    /** The pairs in the given order; a repeated key keeps its later value. Both defaults are
-     * value-initialised. */
+    /** No pairs; both defaults are value-initialised. */
+    KTLookUpTable() = default;
+    /** The pairs in the given order; a repeated key keeps its later value. Defaults as without pairs. */
     KTLookUpTable(std::initializer_list<std::pair<K, V>> pairs)
     {
         for (const std::pair<K, V> &pair : pairs)

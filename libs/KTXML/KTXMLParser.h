@@ -6,7 +6,6 @@
 
 #include <QString>
 
-class KTDistanceUnit;
 class QDomElement;
 class QDomNamedNodeMap;
 
