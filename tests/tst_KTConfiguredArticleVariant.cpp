@@ -46,7 +46,7 @@ private Q_SLOTS:
         };
         KTTest::check(
             described,
-            {"value='v' key_name=' Cover  colour' value_name='Black' -> Cover colour: Black|Black",
+            {"value='v' key_name=' Cover  colour' value_name='&lt;b>&amp;' -> Cover colour: <b>&|<b>&",
              "value='v' value_name='Black' color='red' -> |Black", "value='v' key_name='Cover' -> Cover:|",
              "key_name='%2' value_name='Black' -> %2: Black|",
              "value='v' key_name='Cover' value_name='Red' color='#80ff0000' -> Cover: "

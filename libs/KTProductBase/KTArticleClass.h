@@ -97,7 +97,7 @@ public:
 
     /** "book", "prints", "walldecor", "calendar", "card" or "other"; of several kinds the first of these. */
     QString toPHProjectCategory() const;
-    /** The display name of the project category, translated. */
+    /** The display name of the project category, translated at each call. */
     QString toHumanReadable() const;
 
     /**

@@ -39,8 +39,9 @@ public:
     KTBarcodeDefinition findDefinition(const QRect &rect) const;
     KTBarcodeDefinitionList barcodesOnPage(int pageNr) const;
     /**
-     * The area of all entries, on whichever page. Thousands of long bars that cross, which no product has,
-     * may be covered by the rectangle around them instead.
+     * The area of all entries, on whichever page. Where it is cut into millions of pieces, as by thousands of
+     * long bars that cross or that stand side by side in as many heights, which no product has, the result
+     * may hold rectangles around several entries instead.
      */
     QRegion occupiedRegion() const;
 

@@ -54,9 +54,15 @@ public:
     bool isValid() const;
     /** True when the value is the written keyword of the spot colour. */
     bool isSpotColor(const KTSpotColor &spot) const;
-    /** Rich text of key name, swatch and value name; empty without a key name. */
+    /**
+     * Rich text of key name, swatch and value name; empty without a key name. The names are taken over as
+     * they are, so that HTML in them is HTML of the result.
+     */
     [[nodiscard]] QString describe() const;
-    /** "key:value", or an empty text for an invalid option. */
+    /**
+     * "key:value", or an empty text for an invalid option. This is not the order text, which expands compound
+     * options: see KTConfiguredArticleVariantList::joinForOrderTxt().
+     */
     [[nodiscard]] QString toString() const;
     /** The pair of key and value; empty for an invalid option. */
     [[nodiscard]] KTArticleVariants toArticleVariants() const;

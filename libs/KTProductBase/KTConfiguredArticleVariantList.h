@@ -12,7 +12,7 @@
 /**
  * The options that the catalogue offers for one article, in the order of their source.
  *
- * Every constructor and reader skips invalid options and keeps doubles. "Matching" options of a choice are
+ * Every constructor and reader skips invalid options and keeps duplicates. "Matching" options of a choice are
  * those whose value is the one that the choice holds for their key.
  */
 class KTPRODUCTBASE_EXPORT KTConfiguredArticleVariantList : public QList<KTConfiguredArticleVariant>
@@ -53,7 +53,7 @@ public:
     KTConfiguredArticleVariantList &operator=(KTConfiguredArticleVariantList &&other) noexcept = default;
     virtual ~KTConfiguredArticleVariantList();
 
-    /** Reads options like "alcolor:black", separated by ",". */
+    /** Reads options like "alcolor:black", separated by ","; blanks are a part of the key or value. */
     [[nodiscard]] static KTConfiguredArticleVariantList createFromCSV(const QString &text);
     /**
      * Expands a compound option ("giftboxcolor;boxstyle" with "black;wood") into one option per key. Nothing
@@ -93,7 +93,7 @@ public:
     [[nodiscard]] KTArticleVariants defaultVariants() const;
     /** Key name and visible name ("Cover colour: Black") of the matching options, sorted. */
     QStringList visibleNames(const KTArticleVariants &chosen) const;
-    /** The editor names of the matching options, sorted; doubles are kept. */
+    /** The editor names of the matching options, sorted; duplicates are kept. */
     QStringList editorNames(const KTArticleVariants &chosen) const;
     /** Each box style with each cover photo option, or alone where there are none; box styles first. */
     [[nodiscard]] KTArticleVariantsList possibleBoxStyles() const;

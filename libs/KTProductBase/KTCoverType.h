@@ -51,7 +51,7 @@ KT_DECLARE_FLAG_OPERATORS(KTCoverTypeEnum)
  * The cover, binding or material of a product, or several of them.
  *
  * The tables of display names and tool tips are translated on first use, kept for the life of the process,
- * and for any thread; what init...() builds belongs to the caller.
+ * and for any thread; what init...() builds is translated at each call and belongs to the caller.
  */
 class KTPRODUCTBASE_EXPORT KTCoverType : public KTEnumWrapper<KTCoverTypeEnum>
 {
@@ -66,7 +66,8 @@ public:
 
     /**
      * The lowest type whose display name is the translation of the text; none for an unknown name. An empty
-     * text gives gift, the lowest type with an empty name.
+     * text gives gift, the lowest type with an empty name. The text is translated at each call, the names on
+     * first use: after a change of language they do not match.
      */
     [[nodiscard]] static KTCoverType createFromHumanReadable(const QString &name);
 
@@ -76,11 +77,14 @@ public:
     static KTLookUpTable<KTCoverTypeEnum, QString> *bindingToolTips();
 
     /**
-     * The display name of exactly one type, translated; empty for those that dialogs name by their article,
-     * and "unbekannter Bindungstyp" for what is in no row.
+     * The display name of exactly one type, from bindingNames(); empty for those that dialogs name by their
+     * article, and "unbekannter Bindungstyp" for what is in no row.
      */
     QString humanReadableName() const;
-    /** The tool tip of exactly one book or calendar binding; "unbekannter Bindungstyp" for the rest. */
+    /**
+     * The tool tip of exactly one book or calendar binding, from bindingToolTips(); "unbekannter Bindungstyp"
+     * for the rest.
+     */
     QString toolTip() const;
 
     /** True when a cover that can be designed all over is among the types. */

@@ -37,7 +37,7 @@ public:
     template <typename T, typename = KTNoClassification<T>>
     KTDlpType(T) = delete;
 
-    /** The display name of exactly one kind, translated; empty where there is none. */
+    /** The display name of exactly one kind, else empty; translated on first use of any and kept. */
     QString visibleName() const;
     /**
      * The name of the directory with the content of exactly one kind; empty where there is none. The flag

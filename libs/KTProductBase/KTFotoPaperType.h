@@ -35,7 +35,7 @@ public:
     /** Glossy for exactly one kind of photo prints; unknown for every other class. */
     [[nodiscard]] static KTFotoPaperType defaultFor(const KTArticleClass &articleClass);
 
-    /** The display name, translated; empty for a union. */
+    /** The display name, translated on first use of any and kept; empty for a union. */
     QString humanReadableName() const;
     /** "1" or "2" for exactly that surface, else an empty text. */
     [[nodiscard]] QString encodeForProduction() const;

@@ -16,7 +16,7 @@ public:
     KTOrderProjectInfo &operator=(KTOrderProjectInfo &&other) noexcept = default;
     virtual ~KTOrderProjectInfo();
 
-    /** The mark: no session, no order, position 0. The callers' code spells the name so. */
+    /** The mark: no session, no order, position 0. The misspelling is part of the API. */
     [[nodiscard]] static KTOrderProjectInfo createDeletingProjetInfo();
 
     QString xtciSession() const { return myXtciSession; }

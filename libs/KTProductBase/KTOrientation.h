@@ -56,7 +56,10 @@ public:
      */
     KTOrientationEnum fromSize(const QSizeF &size) const;
 
-    /** German words to put before a noun, translated; a null string unless it is exactly one format. */
+    /**
+     * German words to put before a noun, translated on first use of any and kept; a null string unless it is
+     * exactly one format.
+     */
     QString humanReadable() const;
     /** True for portrait, slim or not; also when other formats are among the value's. */
     bool isPortrait() const;

@@ -40,7 +40,9 @@ public:
     QString pdfPostFix(bool sidesApart) const;
     /** The path with each ".pdf", in any letter case, replaced by the post fix. */
     [[nodiscard]] QString modifyProductionPath(const QString &path, bool sidesApart) const;
-    /** Says in German where exactly one place is, translated; else a null string. */
+    /**
+     * Says in German where exactly one place is, else a null string; translated on first use of any and kept.
+     */
     [[nodiscard]] QString describe() const;
 
     void fillTable(KTEnumToStringTable<KTPageAlignmentEnum> *table) const override;

@@ -33,11 +33,11 @@ public:
     template <typename T, typename = KTNoClassification<T>>
     KTPageBinding(T) = delete;
 
-    /** Builds a table of the display names, which the caller owns. */
+    /** Builds a table of the display names, translated at this moment, which the caller owns. */
     [[nodiscard]] static KTLookUpTable<KTPageBinding, QString> *initPageBindingNames();
     /** The display names, translated on first use and kept for the life of the process; for any thread. */
     static KTLookUpTable<KTPageBinding, QString> *pageBindingNames();
-    /** The display name of exactly one binding, translated; empty where there is none. */
+    /** The display name of exactly one binding, from pageBindingNames(); empty where there is none. */
     QString humanReadableName() const;
 
     /** Appends a "pageBinding" child, unless the value is 0 or a common binding (glue, lay-flat, stapled) is

@@ -24,7 +24,7 @@ public:
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     using QObject::parent;
     QModelIndex parent(const QModelIndex &child) const override;
-    /** The translated text of the row's page count for a valid index and Qt::DisplayRole. */
+    /** The row's page count as a text, translated at each call, for a valid index and Qt::DisplayRole. */
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
     int pagesAtIndex(int row) const;

@@ -32,7 +32,7 @@ public:
     void setCalculator(KTPageOrganizationCalculator *calculator);
     /** Stays valid for the life of the process, even when the cache is cleared. */
     KTPageCountOrganization *organization(const KTProductType &type);
-    /** A copy of organization(); the callers' code spells the name so. */
+    /** A copy of organization(). The misspelling is part of the API. */
     KTPageCountOrganization pageCountOrganzation(const KTProductType &type);
     /**
      * Always asks the calculator; the caller owns the result. Takes no lock, so no other thread may set a

@@ -36,14 +36,17 @@ public:
     template <typename T, typename = KTNoClassification<T>>
     KTPaperType(T) = delete;
 
-    /** The lowest paper whose display name is the translation of the text; unknown for any other text. */
+    /**
+     * The lowest paper whose display name is the translation of the text; unknown for any other text. The
+     * text is translated at each call, the names on first use: after a change of language they do not match.
+     */
     [[nodiscard]] static KTPaperType createFromHumanReadable(const QString &name);
 
-    /** Builds a table of the display names, which the caller owns. */
+    /** Builds a table of the display names, translated at this moment, which the caller owns. */
     [[nodiscard]] static KTLookUpTable<KTPaperType, QString> *initPaperTypeNames();
     /** The display names, translated on first use and kept for the life of the process; for any thread. */
     static KTLookUpTable<KTPaperType, QString> *paperTypeNames();
-    /** The display name of exactly one paper, translated; "unbekannter Papiertyp" where there is none. */
+    /** The display name of exactly one paper, from paperTypeNames(), or its "unbekannter Papiertyp". */
     QString humanReadableName() const;
 
     void fillTable(KTEnumToStringTable<KTPaperTypeEnum> *table) const override;

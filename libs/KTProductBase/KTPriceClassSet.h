@@ -11,7 +11,7 @@
 #include <utility>
 
 /**
- * Price classes without order and without doubles, and the catalogue's fixed groups of them.
+ * Price classes without order and without duplicates, and the catalogue's fixed groups of them.
  *
  * The groups tell what kind of add-on a price class bills. They can be asked from any thread and during
  * static initialisation; each call returns a copy, so that changing it leaves the group as it is.
@@ -72,7 +72,7 @@ public:
     static KTPriceClassSet frameGlasses();
     /** @} */
 
-    /** @name What hangs or holds a print; the callers' code spells the wooden strips so */
+    /** @name What hangs or holds a print. The misspelling of "wooden" is part of the API. */
     /** @{ */
     static KTPriceClassSet calendarStrips();
     static KTPriceClassSet posterWoddenStrips();
@@ -82,7 +82,7 @@ public:
     static KTPriceClassSet wallholderPriceClasses();
     /** @} */
 
-    /** @name Further add-ons; the callers' code spells the envelopes so */
+    /** @name Further add-ons. The misspelling of "envelopes" is part of the API. */
     /** @{ */
     static KTPriceClassSet maps();
     static KTPriceClassSet envelops();

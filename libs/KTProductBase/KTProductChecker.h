@@ -7,7 +7,9 @@
 /**
  * Says whether a product may be offered or ordered; the application implements it.
  *
- * The registry may ask from any thread. A checker may ask the registry in turn.
+ * The registry may ask from any thread, and KTProductCheckerRegistry::isValid() asks under the registry's
+ * lock. A checker may ask the registry other questions in turn; the same one again recurses without end, and
+ * waiting for another thread that asks the registry never ends.
  */
 class KTPRODUCTBASE_EXPORT KTProductChecker
 {

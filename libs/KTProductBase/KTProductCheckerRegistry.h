@@ -28,7 +28,8 @@ public:
 
     /**
      * Adds the checker, which stays the caller's; one that is added twice is asked twice, and a null one is
-     * ignored. Forgets all answers.
+     * ignored. Forgets all answers. A checker that is added while another one is asked counts from the next
+     * question on.
      */
     void registerChecker(KTProductChecker *checker);
     /** Removes the checker wherever it was added; its owner does so before deleting it. Forgets all answers.
@@ -38,7 +39,8 @@ public:
     void clearCaches();
 
     /**
-     * The answer, from memory where the question was asked before. When a checker throws, so does this, and
+     * The answer, from memory where the question was asked before; otherwise the checkers are asked under the
+     * lock, see KTProductChecker for what they must not do. When a checker throws, so does this, and
      * nothing is remembered; nor is it when a checker has changed the registration or cleared the caches.
      */
     bool isValid(const KTProductType &type, KTProductCheckerType checkerType) const;

@@ -15,6 +15,7 @@ class KTPRODUCTBASE_EXPORT KTProductTypeList : public QList<KTProductType>
 {
 public:
     KTProductTypeList() = default;
+    /** All of them, unknown ones and duplicates too. */
     KTProductTypeList(const QList<KTProductType> &types);
     KTProductTypeList(QList<KTProductType> &&types) noexcept
         : QList<KTProductType>(std::move(types))

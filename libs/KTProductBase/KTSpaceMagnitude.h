@@ -56,15 +56,19 @@ public:
     [[nodiscard]] static KTSpaceMagnitude fromSquareCentimeters(int area);
     /** The class of 30.0 over the number, in whole cm²; none for 0.0, the smallest for not-a-number. */
     [[nodiscard]] static KTSpaceMagnitude estimateByAreaSizes(double areaSizes);
-    /** The lowest class whose display name is the translation of the text; none for an unknown name. */
+    /**
+     * The lowest class whose display name is the translation of the text; none for an unknown name. The text
+     * is translated at each call, the names are those of names(): after a change of language they do not
+     * match.
+     */
     [[nodiscard]] static KTSpaceMagnitude createFromHumanReadable(const QString &name);
 
-    /** Builds a table of the display names, which the caller owns. */
+    /** Builds a table of the display names, translated at this moment, which the caller owns. */
     [[nodiscard]] static KTLookUpTable<KTSpaceMagnitude, QString> *initNames();
     /** The display names, translated on first use and kept for the life of the process; for any thread. */
     static KTLookUpTable<KTSpaceMagnitude, QString> *names();
 
-    /** The display name, translated; "Undefiniert" where there is none. */
+    /** The display name, from names(), or its "Undefiniert". */
     QString humanReadableName() const;
     /** How many images a page holds; fallback 1. */
     int maxReasonableImagesPerPage() const;

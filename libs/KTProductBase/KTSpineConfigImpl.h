@@ -23,16 +23,16 @@ public:
 
     /**
      * Reads the organisation from the element itself, see KTPageCountOrganization::createFromProductsXML(),
-     * and the rest from its child "composition": the unit of its widths "units" (default "mm"), and its child
-     * "spine" with "packages_per_block", "base_width", "block_width" and "additional_width" (default 0).
-     * Missing elements read as if every attribute were missing; an unknown unit counts as the layout unit,
-     * with a warning for each width.
+     * and the rest from its child "composition": the unit of its widths "units" (default "mm", for an empty
+     * text as well), and its child "spine" with "packages_per_block", "base_width", "block_width" and
+     * "additional_width" (default 0). Missing elements read as if every attribute were missing; an unknown
+     * unit, a blank text included, counts as the layout unit, with a warning for each width.
      */
     [[nodiscard]] static KTSpineConfigImpl createFromProductsXML(const QDomElement &element);
 
     bool isValid() const;
     int additionalPagePackageBlocks(unsigned int pages) const;
-    /** The width of the complete blocks alone. The callers' code spells the name so. */
+    /** The width of the complete blocks alone. The misspelling is part of the API. */
     KTDistance additionalWithForPages(unsigned int pages) const;
     KTDistance spineWidth(unsigned int pages) const;
     int spineMaxFontHeigth(unsigned int pages, const QString &fontFamily) const;
