@@ -33,11 +33,10 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     const QCommandLineOption articleOption(QStringLiteral("article"),
                                            QStringLiteral("Only the article with this number."),
                                            QStringLiteral("ID"));
-    const QCommandLineOption pagesOption(
-        QStringLiteral("pages"),
-        QStringLiteral(
-            "What becomes of a wish for N pages, and how wide the spine is then; may be given several times."),
-        QStringLiteral("N"));
+    const QCommandLineOption pagesOption(QStringLiteral("pages"),
+                                         QStringLiteral("What becomes of a wish for N pages, and how wide "
+                                                        "the spine is then; may be given several times."),
+                                         QStringLiteral("N"));
     commandLine.parser().addOptions({articleOption, pagesOption});
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
