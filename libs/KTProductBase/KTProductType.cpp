@@ -8,7 +8,7 @@
 #include <QDebug>
 #include <QDomElement>
 #include <QHash>
-#include <QRegularExpression>
+#include <QStringView>
 
 #include <algorithm>
 #include <iterator>
@@ -23,20 +23,35 @@ constexpr KTStringLiteral AGENDAS[] = {"CAL29", "CAL30"};
 
 constexpr QChar ALBUM_INITIAL = u'A';
 
-/** Finds an album family anywhere in a code; a function, because product types are made during start-up. */
-const QRegularExpression &bookRegExp()
+bool isAsciiDigit(QChar character)
 {
-    static const QRegularExpression myBookRegExp(QStringLiteral("((ALB|ALBS)\\d+).*"));
-    return myBookRegExp;
+    return character >= u'0' && character <= u'9';
 }
 
+/** The first place where "ALB" or "ALBS" has digits behind it, with all of them; empty if there is none. */
+QStringView albumFamily(QStringView code)
+{
+    constexpr QStringView LETTERS = u"ALB";
+    for (auto start = code.indexOf(LETTERS); start >= 0; start = code.indexOf(LETTERS, start + 1)) {
+        const auto *const letters = code.begin() + start;
+        const auto *const behind = letters + LETTERS.size();
+        const auto *const digits = behind != code.end() && *behind == u'S' ? behind + 1 : behind;
+        const auto *const end = std::find_if_not(digits, code.end(), isAsciiDigit);
+        if (end != digits)
+            return QStringView(letters, end);
+    }
+    return QStringView();
+}
+
+/** Not by a regular expression of Qt's: those end with main(), and product types may be made afterwards. */
 QString normalised(const QString &code)
 {
     // Only the initial is asked beforehand: a family later in a code that begins with "A" counts as well.
     if (!code.startsWith(ALBUM_INITIAL))
         return code;
-    const QRegularExpressionMatch match = bookRegExp().match(code);
-    return match.hasMatch() ? match.captured(1) : code;
+    const QStringView family = albumFamily(code);
+    const bool isShorter = !family.isEmpty() && family.size() < code.size();
+    return isShorter && code.isValidUtf16() ? family.toString() : code;
 }
 
 } // namespace

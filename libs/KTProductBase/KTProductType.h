@@ -22,8 +22,9 @@ class KTPRODUCTBASE_EXPORT KTProductType
 public:
     /**
      * A code that begins with "A" and contains "ALB" or "ALBS" with ASCII digits behind is shortened to the
-     * first such place. Any other code, and one that is not valid UTF-16, stays as it is. A code with "A" can
-     * be read until main() returns, as Qt's regular expressions can.
+     * first such place. Any other code stays as it is, and so does one that is not valid UTF-16: half of a
+     * surrogate pair anywhere in it, before or behind the place, keeps it whole. NUL is a character like any
+     * other.
      */
     KTProductType(const QString &code = QString());
     // Declared so that there is no move, which would leave behind a hash without its code.
