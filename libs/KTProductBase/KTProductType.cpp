@@ -89,7 +89,9 @@ bool KTProductType::isAgenda() const
 
 bool KTProductType::operator==(const KTProductType &other) const
 {
-    return myHashValue == other.myHashValue && myCode.compare(other.myCode, Qt::CaseInsensitive) == 0;
+    // What gets past the hash is nearly always equal to the letter, and often the same text.
+    return myHashValue == other.myHashValue
+        && (myCode == other.myCode || myCode.compare(other.myCode, Qt::CaseInsensitive) == 0);
 }
 
 bool KTProductType::operator<(const KTProductType &other) const
