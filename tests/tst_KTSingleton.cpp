@@ -19,10 +19,16 @@ public:
         if (++constructions == 1)
             throw std::runtime_error("not yet");
     }
-    void setupInstance() override { ++setups; }
+    void setupInstance() override
+    {
+        isBeingSetUp = true;
+        KTTest::linger();
+        ++setups;
+    }
 
     static inline int constructions = 0;
     static inline int setups = 0;
+    static inline std::atomic<bool> isBeingSetUp {false};
 };
 
 class tst_KTSingleton : public QObject
@@ -52,17 +58,23 @@ private:
         using Reluctant = KTReluctant<NUMBER>;
         Reluctant *instances[8];
         std::atomic<int> failures {0};
+        std::atomic<int> tooEarly {0};
         KTTest::runInThreads(8, [&](int i) {
+            // One comes late, but must not see the instance before it is set up.
+            while (i == 0 && !Reluctant::isBeingSetUp)
+                std::this_thread::yield();
             try {
                 instances[i] = Reluctant::instance();
             } catch (const std::runtime_error &) {
                 ++failures;
                 instances[i] = Reluctant::instance();
             }
+            tooEarly += Reluctant::setups == 0;
         });
         for (const Reluctant *const instance : instances)
             QCOMPARE(instance, instances[0]);
-        QCOMPARE(KTTest::text(int(failures), Reluctant::constructions, Reluctant::setups), u"1|2|1"_s);
+        QCOMPARE(KTTest::text(int(failures), int(tooEarly), Reluctant::constructions, Reluctant::setups),
+                 u"1|0|2|1"_s);
     }
 };
 
