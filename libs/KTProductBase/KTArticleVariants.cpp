@@ -13,8 +13,9 @@
 
 using KTVariantPairs::filled;
 using KTVariantPairs::forEachPart;
+using KTVariantPairs::JoinedPairs;
 using KTVariantPairs::ORDER_TXT_SEPARATOR;
-using KTVariantPairs::PAIR_TEMPLATE;
+using KTVariantPairs::partText;
 
 namespace {
 
@@ -48,6 +49,14 @@ void insertPair(KTArticleVariants *variants, const QString &text, Predicate isSe
         return;
     const int position = static_cast<int>(separator - text.begin());
     variants->insert(text.left(position), text.mid(position + 1));
+}
+
+qint64 writtenSize(const QHash<QString, QString> &variants)
+{
+    qint64 size = 0;
+    for (auto pair = variants.begin(); pair != variants.end(); ++pair)
+        size += KTVariantPairs::writtenSize(pair.key(), pair.value());
+    return size;
 }
 
 } // namespace
@@ -189,23 +198,22 @@ uint KTArticleVariants::hash() const
 
 QString KTArticleVariants::toMCF() const
 {
-    QStringList pairs;
+    JoinedPairs pairs(MCF_SEPARATOR, writtenSize(myVariants));
     for (auto pair = myVariants.begin(); pair != myVariants.end(); ++pair) {
         if (!pair.key().isEmpty() && !pair.value().isEmpty())
-            pairs.append(filled(PAIR_TEMPLATE, pair.key(), pair.value()));
+            pairs.append(pair.key(), pair.value());
     }
-    return pairs.join(MCF_SEPARATOR);
+    return pairs.text();
 }
 
 QString KTArticleVariants::toOrderTxt() const
 {
-    QStringList pairs;
+    JoinedPairs pairs(ORDER_TXT_SEPARATOR, writtenSize(myVariants));
     for (auto pair = myVariants.begin(); pair != myVariants.end(); ++pair) {
-        forEachPart(pair.key(), pair.value(), [&pairs](const QString &key, const QString &value) {
-            pairs.append(filled(PAIR_TEMPLATE, key, value));
-        });
+        forEachPart(pair.key(), pair.value(),
+                    [&pairs](QStringView key, QStringView value) { pairs.append(key, value); });
     }
-    return pairs.join(ORDER_TXT_SEPARATOR);
+    return pairs.text();
 }
 
 KTArticleVariants KTArticleVariants::toXTCI() const
@@ -218,8 +226,9 @@ KTArticleVariants KTArticleVariants::toXTCI() const
 
 void KTArticleVariants::splitForProduction(const QString &key, const QString &value)
 {
-    forEachPart(key, value,
-                [this](const QString &keyPart, const QString &valuePart) { insert(keyPart, valuePart); });
+    forEachPart(key, value, [&](QStringView keyPart, QStringView valuePart) {
+        insert(partText(keyPart, key), partText(valuePart, value));
+    });
 }
 
 QDebug operator<<(QDebug stream, const KTArticleVariants &variants)

@@ -61,10 +61,12 @@ KTConfiguredArticleVariantList
 KTConfiguredArticleVariantList::createFromReduced(const KTConfiguredArticleVariant &variant)
 {
     KTConfiguredArticleVariantList variants;
-    KTVariantPairs::forEachPart(variant.key(), variant.value(),
-                                [&variants](const QString &key, const QString &value) {
-                                    variants.append(KTConfiguredArticleVariant(key, value));
-                                });
+    const QString key = variant.key();
+    const QString value = variant.value();
+    KTVariantPairs::forEachPart(key, value, [&](QStringView keyPart, QStringView valuePart) {
+        variants.append(KTConfiguredArticleVariant(KTVariantPairs::partText(keyPart, key),
+                                                   KTVariantPairs::partText(valuePart, value)));
+    });
     return variants;
 }
 
@@ -189,12 +191,16 @@ KTArticleVariantsList KTConfiguredArticleVariantList::possibleBoxStyles() const
 
 QString KTConfiguredArticleVariantList::joinForOrderTxt() const
 {
-    QStringList pairs;
+    qint64 size = 0;
+    for (const KTConfiguredArticleVariant &variant : *this)
+        size += KTVariantPairs::writtenSize(variant.key(), variant.value());
+    KTVariantPairs::JoinedPairs pairs(KTVariantPairs::ORDER_TXT_SEPARATOR, size);
     for (const KTConfiguredArticleVariant &variant : *this) {
-        for (const KTConfiguredArticleVariant &part : createForProduction(variant))
-            pairs.append(KTVariantPairs::filled(KTVariantPairs::PAIR_TEMPLATE, part.key(), part.value()));
+        KTVariantPairs::forEachPart(
+            variant.key(), variant.value(),
+            [&pairs](QStringView key, QStringView value) { pairs.append(key, value); });
     }
-    return pairs.join(KTVariantPairs::ORDER_TXT_SEPARATOR);
+    return pairs.text();
 }
 
 void KTConfiguredArticleVariantList::intersect(const KTConfiguredArticleVariantList &other,
