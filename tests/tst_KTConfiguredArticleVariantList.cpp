@@ -86,6 +86,10 @@ private Q_SLOTS:
             {" -> +|+|||", "alcolor:black -> +|-|alcolor:black|Cover: Black|e1",
              "alcolor:red,giftboxcolor;boxstyle:black;wood -> +|-|alcolor:red|%2: Box/Cover: Red|/e2",
              "alcolor:green -> -|-|||", "alcolor:red,x:y -> -|-|alcolor:red|Cover: Red|e2"});
+        // Neither an option offered twice nor one without a value stands for another one.
+        KTConfiguredArticleVariantList list = offer(u"a:1,a:1"_s);
+        list.append(KTConfiguredArticleVariant(u"aa"_s, QString()));
+        QVERIFY(!list.contains(KTArticleVariants::createFromMCF(u"a:1,b:1"_s)));
     }
 
     void findsFirst()

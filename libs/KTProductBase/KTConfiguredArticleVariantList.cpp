@@ -7,6 +7,7 @@
 #include <QDebug>
 #include <QDomElement>
 #include <QSet>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <iterator>
@@ -107,11 +108,22 @@ bool KTConfiguredArticleVariantList::contains(const KTConfiguredArticleVariantLi
 
 bool KTConfiguredArticleVariantList::contains(const KTArticleVariants &chosen) const
 {
-    const QSet<KTConfiguredArticleVariant> offered = setOf(*this);
     const QStringList keys = chosen.keys();
-    return std::all_of(keys.begin(), keys.end(), [&](const QString &key) {
-        return offered.contains(KTConfiguredArticleVariant(key, chosen.value(key, QString())));
-    });
+    QVarLengthArray<bool, 64> isOffered(keys.size());
+    std::fill(isOffered.begin(), isOffered.end(), false);
+    int missing = keys.size();
+    for (auto variant = begin(); variant != end() && missing > 0; ++variant) {
+        if (!matches(*variant, chosen))
+            continue;
+        // An option with an empty value matches without a chosen key.
+        const auto key = std::lower_bound(keys.begin(), keys.end(), variant->key());
+        if (key == keys.end() || *key != variant->key())
+            continue;
+        bool &isKeyOffered = isOffered[static_cast<int>(key - keys.begin())];
+        missing -= isKeyOffered ? 0 : 1;
+        isKeyOffered = true;
+    }
+    return missing == 0;
 }
 
 bool KTConfiguredArticleVariantList::containsAtLeastOne(const KTConfiguredArticleVariantList &other) const
