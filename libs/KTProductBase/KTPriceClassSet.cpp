@@ -6,6 +6,8 @@
 #include <QDebug>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 constexpr KTStringLiteral FRAME_PASSEPARTOUT = "PAS1";
@@ -61,11 +63,11 @@ constexpr GroupRow GROUPS[] = {
     {Group::Videos,              "VDO1 VDO2 VDO3 VDO4 VDO5 VDO6 VDO7 VDO8 VDO9 VDO51 VDO52 VDO53 VDO54 VDO55"},
 };
 
-KTPriceClassSet createGroup(Group group)
+KTPriceClassSet createGroup(std::initializer_list<Group> members)
 {
     KTPriceClassSet priceClasses;
     for (const GroupRow &row : GROUPS) {
-        if (row.group != group)
+        if (std::find(members.begin(), members.end(), row.group) == members.end())
             continue;
         for (const QString &code : QString::fromLatin1(row.codes).split(ROW_SEPARATOR, Qt::SkipEmptyParts))
             priceClasses.insert(code);
@@ -73,11 +75,11 @@ KTPriceClassSet createGroup(Group group)
     return priceClasses;
 }
 
-/** The group, built by whichever thread asks first; never freed, because destructors may ask at the end. */
-template <Group GROUP>
+/** The groups as one, built by the thread that asks first; never freed, as destructors may ask at the end. */
+template <Group... MEMBERS>
 const KTPriceClassSet &theGroup()
 {
-    static const auto *const myGroup = new KTPriceClassSet(createGroup(GROUP));
+    static const auto *const myGroup = new KTPriceClassSet(createGroup({MEMBERS...}));
     return *myGroup;
 }
 
@@ -121,10 +123,7 @@ KTPriceClassSet KTPriceClassSet::spotColorSilverInk()
 
 KTPriceClassSet KTPriceClassSet::spotColorAll()
 {
-    KTPriceClassSet all = spotColorGloss();
-    all.unite(spotColorGoldSilver());
-    all.unite(spotColorSilverInk());
-    return all;
+    return theGroup<Group::SpotColorGloss, Group::SpotColorGoldSilver, Group::SpotColorSilverInk>();
 }
 
 KTPriceClassSet KTPriceClassSet::spotColorPriceClasses(const KTSpotColor &color)
@@ -169,7 +168,8 @@ KTPriceClass KTPriceClassSet::frameLamination()
 
 KTPriceClassSet KTPriceClassSet::frameGlasses()
 {
-    return {FRAME_GLASS, FRAME_LAMINATION};
+    static const auto *const myGroup = new KTPriceClassSet {FRAME_GLASS, FRAME_LAMINATION};
+    return *myGroup;
 }
 
 KTPriceClassSet KTPriceClassSet::calendarStrips()
@@ -189,9 +189,7 @@ KTPriceClassSet KTPriceClassSet::calendarStandPriceClasses()
 
 KTPriceClassSet KTPriceClassSet::calendarFrameClasses()
 {
-    KTPriceClassSet all = calendarStrips();
-    all.unite(calendarStandPriceClasses());
-    return all;
+    return theGroup<Group::CalendarStrips, Group::CalendarStands>();
 }
 
 KTPriceClassSet KTPriceClassSet::wallholderPriceClasses()

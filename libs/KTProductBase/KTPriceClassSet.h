@@ -14,7 +14,8 @@
  * Price classes without order and without duplicates, and the catalogue's fixed groups of them.
  *
  * The groups tell what kind of add-on a price class bills. They can be asked from any thread and during
- * static initialisation; each call returns a copy, so that changing it leaves the group as it is.
+ * static initialisation. Each call returns a copy, which shares the group until it is changed and then leaves
+ * it as it is.
  */
 class KTPRODUCTBASE_EXPORT KTPriceClassSet : public QSet<KTPriceClass>
 {
