@@ -28,7 +28,7 @@ private Q_SLOTS:
         };
         KTTest::check(visible,
                       {"Weiß \u20ac -> Weiß \u20ac|+|+", "\x1b[2J\n -> \\u001b[2J\\u000a|+|+",
-                       "\u009b -> \\u009b|+|+", "a\u202eb\u2066 -> a\\u202eb\\u2066|+|+",
+                       "\u007f\u009b -> \\u007f\\u009b|+|+", "a\u202eb\u2066 -> a\\u202eb\\u2066|+|+",
                        "\u2028 -> \\u2028|+|+",
                        u"\U0001f600"_s + QChar(0xd800) + u" -> \U0001f600\\ud800|+|+"_s});
     }

@@ -2,6 +2,8 @@
 
 #include "KTFileName.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isObeyed(QChar character)
@@ -24,21 +26,30 @@ QString escaped(QChar character)
     return QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
 }
 
+/** True for nearly all that comes, and nothing to escape. */
+bool isPrintableAscii(QChar character)
+{
+    return character >= QLatin1Char(' ') && character <= QLatin1Char('~');
+}
+
 template <typename Predicate>
 QString escapedWhere(const QString &text, Predicate isEscaped)
 {
     QString result;
-    result.reserve(text.size());
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar character = text.at(i);
-        if (character.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
-            result.append(character).append(text.at(++i));
-        else if ((character.isSurrogate() && !KTFileName::isRawByte(character)) || isEscaped(character))
-            result.append(escaped(character));
-        else
-            result.append(character);
+    const auto next
+        = [&text](const QChar *from) { return std::find_if_not(from, text.cend(), isPrintableAscii); };
+    const QChar *pending = text.cbegin();
+    for (const QChar *at = next(pending); at != text.cend(); at = next(at + 1)) {
+        if (at->isHighSurrogate() && at + 1 != text.cend() && at[1].isLowSurrogate()) {
+            ++at;
+        } else if ((at->isSurrogate() && !KTFileName::isRawByte(*at)) || isEscaped(*at)) {
+            result.append(pending, static_cast<int>(at - pending)).append(escaped(*at));
+            pending = at + 1;
+        }
     }
-    return result;
+    if (pending == text.cbegin())
+        return text;
+    return result.append(pending, static_cast<int>(text.cend() - pending));
 }
 
 } // namespace

@@ -8,7 +8,8 @@ namespace KTTerminalText {
 /**
  * The text with everything made visible that a terminal would obey instead of showing: control characters,
  * line breaks, bidirectional overrides and lone surrogates are written as "\u001b" and the like. Bytes of
- * file names that are not UTF-8 stay what they are, see KTFileName: the user has named the file so.
+ * file names that are not UTF-8 stay what they are, see KTFileName: the user has named the file so. A text
+ * without anything to escape is returned as it is, without a copy.
  */
 QString visible(const QString &text);
 
