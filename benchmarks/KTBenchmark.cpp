@@ -61,8 +61,9 @@ void KTBenchmark::require(bool agreed, const QString &what)
 int main(int argc, char **argv)
 {
     const bool isCounted = argc == 4 && std::strcmp(argv[1], "--batches") == 0;
-    for (const auto addGroup : {KTBenchmark::addKeywords, KTBenchmark::addCatalogue, KTBenchmark::addProducts,
-                                KTBenchmark::addLayout}) {
+    for (const auto addGroup : {KTBenchmark::addKeywords, KTBenchmark::addOptions, KTBenchmark::addSingleton,
+                                KTBenchmark::addCatalogue, KTBenchmark::addProductTypes,
+                                KTBenchmark::addRegistry, KTBenchmark::addLayout}) {
         addGroup();
         // At once, because preparing the other groups would take a while under an instruction counter.
         if (isCounted && operations().count(argv[2]) > 0)

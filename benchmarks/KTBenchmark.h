@@ -42,8 +42,11 @@ void addOverInputs(const std::string &name, const INPUTS &inputs, OPERATION oper
 void require(bool agreed, const QString &what);
 
 void addKeywords();
+void addOptions();
+void addSingleton();
 void addCatalogue();
-void addProducts();
+void addProductTypes();
+void addRegistry();
 void addLayout();
 
 } // namespace KTBenchmark

@@ -1,10 +1,13 @@
 #include "KTBenchmark.h"
 
 #include <KTArticleModel.h>
+#include <KTArticleReport.h>
 #include <KTCatalogueReader.h>
+#include <KTTerminalText.h>
 
 #include <QBuffer>
 #include <QFile>
+#include <QJsonDocument>
 #include <QVector>
 #include <QXmlStreamReader>
 
@@ -70,4 +73,12 @@ void KTBenchmark::addCatalogue()
     });
     addOverInputs(WORK + "model", articles,
                   [](const QDomElement &article) { return KTArticleModel(article); });
+
+    static const QStringList reports {
+        QString::fromUtf8(QJsonDocument(KTArticleReport::toJSON(model, {})).toJson()).left(1000)};
+    const QString &report = reports.first();
+    require(report.size() == 1000 && KTTerminalText::visibleJson(report) == report,
+            QStringLiteral("a text with nothing to escape"));
+    addOverInputs("make 1,000 characters visible/library", reports,
+                  [](const QString &text) { return KTTerminalText::visibleJson(text); });
 }

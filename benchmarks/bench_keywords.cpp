@@ -22,6 +22,8 @@ struct Contenders
 
     const Table &library = *KTArticleClass().enumToStringTable();
     KTLiteralArticleClasses literal;
+    /** The same with the library's own keywords, which count no references. */
+    KTLiteralArticleClasses staticLiteral;
     KTGperfArticleClasses gperf;
     KTMetaEnumArticleClasses meta;
     /** The keywords as fillTable() inserts them. */
@@ -29,7 +31,7 @@ struct Contenders
     QVector<KTArticleClassEnum> values;
 };
 
-/** The plain table makes its keywords at run time, as such tables do. */
+/** A plain table makes its keywords at run time, as such tables do. */
 void fill(KTLiteralArticleClasses *table, const Contenders &contenders)
 {
     for (int i = 0; i < contenders.keywords.size(); ++i)
@@ -41,8 +43,12 @@ Contenders::Contenders()
     const auto &read = library.keywordToValue;
     for (auto entry = read.begin(); entry != read.end(); ++entry) {
         const QString written = library.encode(*entry);
-        keywords.append((written.toLower() == entry.key() ? written : entry.key()).toLatin1());
+        const QString &keyword = written.toLower() == entry.key() ? written : entry.key();
+        keywords.append(keyword.toLatin1());
         values.append(*entry);
+        staticLiteral.insert(keyword, *entry);
+        KTBenchmark::require(staticLiteral.encode(*entry).data_ptr()->ref.isStatic(),
+                             QStringLiteral("what counts no references"));
     }
     fill(&literal, *this);
 }
@@ -129,7 +135,9 @@ void addEncoding(const std::string &work, const VALUES &values, const QVector<in
     const Contenders &all = contenders();
     for (int i = 0; i < values.size(); ++i) {
         const QString text = encode(all.literal, values.at(i));
-        KTBenchmark::require(encode(all.library, values.at(i)) == text, text);
+        KTBenchmark::require(encode(all.library, values.at(i)) == text
+                                 && encode(all.staticLiteral, values.at(i)) == text,
+                             text);
         KTBenchmark::require(encode(all.meta, metaValues.at(i)).size() == text.size(), text);
     }
     KTBenchmark::addOverInputs(work + "/library", kept(values), [&all, encode](KTArticleClassEnum value) {
@@ -137,6 +145,9 @@ void addEncoding(const std::string &work, const VALUES &values, const QVector<in
     });
     KTBenchmark::addOverInputs(work + "/literal", kept(values), [&all, encode](KTArticleClassEnum value) {
         return encode(all.literal, value);
+    });
+    KTBenchmark::addOverInputs(work + "/static", kept(values), [&all, encode](KTArticleClassEnum value) {
+        return encode(all.staticLiteral, value);
     });
     KTBenchmark::addOverInputs(work + "/QMetaEnum", kept(metaValues),
                                [&all, encode](int value) { return encode(all.meta, value); });
