@@ -19,9 +19,16 @@
 
 namespace {
 thread_local long allocationCount = 0;
-}
+thread_local std::size_t byteCount = 0;
+} // namespace
 
 #if KT_COUNTS_ALLOCATIONS
+static void count(std::size_t bytes)
+{
+    ++allocationCount;
+    byteCount += bytes;
+}
+
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
@@ -29,19 +36,19 @@ void *__libc_realloc(void *pointer, std::size_t size);
 
 Q_DECL_EXPORT void *malloc(std::size_t size)
 {
-    ++allocationCount;
+    count(size);
     return __libc_malloc(size);
 }
 
-Q_DECL_EXPORT void *calloc(std::size_t count, std::size_t size)
+Q_DECL_EXPORT void *calloc(std::size_t number, std::size_t size)
 {
-    ++allocationCount;
-    return __libc_calloc(count, size);
+    count(number * size);
+    return __libc_calloc(number, size);
 }
 
 Q_DECL_EXPORT void *realloc(void *pointer, std::size_t size)
 {
-    ++allocationCount;
+    count(size);
     return __libc_realloc(pointer, size);
 }
 }
@@ -49,6 +56,7 @@ Q_DECL_EXPORT void *realloc(void *pointer, std::size_t size)
 
 KTAllocationCounter::KTAllocationCounter()
     : myStart(allocationCount)
+    , myStartBytes(byteCount)
 {
 }
 
@@ -60,4 +68,9 @@ bool KTAllocationCounter::isAvailable()
 long KTAllocationCounter::allocations() const
 {
     return allocationCount - myStart;
+}
+
+std::size_t KTAllocationCounter::bytes() const
+{
+    return byteCount - myStartBytes;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 /** Counts the heap allocations of this thread from its construction on. */
 class KTAllocationCounter
 {
@@ -10,7 +12,10 @@ public:
     static bool isAvailable();
 
     long allocations() const;
+    /** What the allocations asked for together. */
+    std::size_t bytes() const;
 
 private:
     long myStart;
+    std::size_t myStartBytes;
 };
