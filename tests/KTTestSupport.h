@@ -4,6 +4,7 @@
 #include <QDebug>
 #include <QDomDocument>
 #include <QDomElement>
+#include <QFile>
 #include <QString>
 #include <QTranslator>
 #include <QtTest>
@@ -145,6 +146,24 @@ void check(FUNCTION answer, std::initializer_list<Text> rows, const char *file =
     }
 }
 
+/**
+ * Checks a table in tests/data, whose first line names its columns: the columns behind the first one are the
+ * text() of what the function makes of that.
+ */
+template <typename INPUT = QString, typename FUNCTION>
+void checkTable(const QString &name, FUNCTION answer)
+{
+    QFile file(QStringLiteral(KT_TEST_DATA "/") + name);
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+    const QStringList rows = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts).mid(1);
+    QVERIFY(!rows.isEmpty());
+    for (const QString &row : rows) {
+        const QString input = row.section(u'\t', 0, 0);
+        const QString answers = text(answer(fromText<INPUT>(input))).replace(u'|', u'\t');
+        QCOMPARE(QString(input + u'\t' + answers).replace(u'\n', u"\\n"_s), row);
+    }
+}
+
 /** What an object writes into a data stream, in hexadecimal digits. */
 template <typename T>
 QByteArray streamed(const T &object)
@@ -153,6 +172,15 @@ QByteArray streamed(const T &object)
     QDataStream stream(&written, QIODevice::WriteOnly);
     object << stream;
     return written.toHex();
+}
+
+/** True when all comparison operators say that the first is less. */
+template <typename T>
+bool isLess(const T &less, const T &more)
+{
+    const bool isEqual = less == less && !(less != less) && less <= less && less >= less && !(less < less);
+    return isEqual && less < more && !(more < less) && less <= more && !(more <= less) && more > less
+        && !(less > more) && more >= less && !(less >= more) && less != more && !(less == more);
 }
 
 /** Calls the function with the numbers from 0 on, all at once in their own threads. */

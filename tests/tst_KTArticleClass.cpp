@@ -9,25 +9,14 @@ class tst_KTArticleClass : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void groupsKinds()
+    void knowsItsFacts()
     {
-        using KTTest::bitsWhere;
-        QCOMPARE(bitsWhere<KTArticleClass>([](auto kind) { return kind.maxAmount() == 1; }), 549630001152);
-        QCOMPARE(bitsWhere<KTArticleClass>([](auto kind) { return kind.canModifyABK(); }), 229376);
-    }
-
-    void knowsItsCategory()
-    {
-        const auto category = [](qint64 value) {
+        const auto facts = [](qint64 value) {
             const auto articleClass = KTTest::withBits<KTArticleClass>(value);
-            return KTTest::text(articleClass.toPHProjectCategory(), articleClass.toHumanReadable());
+            return KTTest::text(articleClass.toPHProjectCategory(), articleClass.toHumanReadable(),
+                                articleClass.maxAmount(), articleClass.canModifyABK());
         };
-        // Where several bits are set, the first of these categories counts; an advent calendar is a gift.
-        KTTest::check<qint64>(
-            category,
-            {"32769 -> book|Fotobuch", "131088 -> prints|Fotos", "40 -> walldecor|Poster und Wandbilder",
-             "18 -> walldecor|Poster und Wandbilder", "12 -> calendar|Kalender", "136 -> card|Grußkarten",
-             "256 -> other|Fotogeschenke", "0 -> other|Fotogeschenke"});
+        KTTest::checkTable<qint64>(u"articleclasses.tsv"_s, facts);
     }
 
     void belongsToShippingGroup()
@@ -68,6 +57,7 @@ private Q_SLOTS:
                               {"0 -> <t/>", "32767 -> <t/>",
                                "6 -> <t><type>normal_calendar</type><type>agenda</type></t>",
                                "536870912 -> <t><type></type></t>"});
+        QVERIFY(KTTest::templateOf<KTArticleClass>(65535).contains(u"foto"_s));
     }
 
     void parsesAndFiltersLists()

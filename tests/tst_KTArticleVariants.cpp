@@ -47,8 +47,9 @@ private Q_SLOTS:
                                 pairs(KTArticleVariants::createFromMCF(text)));
         };
         KTTest::check(read,
-                      {"k:v -> k=v|k=v", "k|v -> k=v|k=v", "k+v -> k=v|k=v", "k -> |", "a:b+c -> |", " -> |",
-                       ":v -> =v|=v", "a:1,,oops, -> a=1,,oops,|a=1", "a:white,a|black -> |a=black"});
+                      {"k:v -> k=v|k=v", "k|v -> k=v|k=v", "k+v -> k=v|k=v", "k -> |", "a:b+c -> |",
+                       "a::b -> |", " -> |", ":v -> =v|=v", "a:1,,oops, -> a=1,,oops,|a=1",
+                       "a:white,a|black -> |a=black"});
     }
 
     void readsJsonAndElements()
@@ -76,8 +77,8 @@ private Q_SLOTS:
         KTTest::check(written,
                       {"k=black -> k:black|k:black|k=black",
                        "c;a=1;2/b=3 -> b:3,c;a:1;2|a:2;b:3;c:1|a=2/b=3/c=1", "a;b=1 -> a;b:1||",
-                       "a;;b=;1;2 -> a;;b:;1;2|a:1;b:2|a=1/b=2", "alcolor= -> ||", "=black -> ||",
-                       ";=;; -> ;:;;||", "a%2=b -> ab:b|ab:b|a%2=b", " -> ||"});
+                       "a=1;2 -> a:1;2||", "a;;b=;1;2 -> a;;b:;1;2|a:1;b:2|a=1/b=2", "alcolor= -> ||",
+                       "=black -> ||", ";=;; -> ;:;;||", "a%2=b -> ab:b|ab:b|a%2=b", " -> ||"});
         const QString longKey = u"%2"_s.repeated(200);
         QCOMPARE(variants(longKey + u"=b"_s).toMCF(), QString(200, u'b') + u":b"_s);
         const QString longValue(2000000, u'x');
@@ -141,6 +142,9 @@ private Q_SLOTS:
         QVERIFY(variants != copy && variants.hasCoverColor() && !variants.hasFlyLeafColor()
                 && !copy.hasCoverColor());
         QCOMPARE(copy.toMCF(), u"giftboxcolor:black"_s);
+        QCOMPARE(copy.values().join(u','), KTArticleVariants::blackCFBGiftBoxValue());
+        QVERIFY(KTArticleVariants(u"flyleafcolor:red"_s).hasFlyLeafColor());
+        QCOMPARE(KTArticleVariants::flyLeafKeyColorName(), u"flyleafcolor"_s);
         const QHash<QString, QString> plain {
             {u"giftboxcolor"_s, u"black"_s}
         };

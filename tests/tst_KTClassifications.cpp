@@ -69,6 +69,9 @@ void check(int keywords, int values, qint64 unknown)
     QCOMPARE(qint64(CLASS(QString()).value()), unknown);
     QCOMPARE(qint64(CLASS(u"no keyword"_s).value()), unknown);
 
+    // The text of an article class does not begin with the name of the class.
+    const QString name = QString::fromLatin1(QMetaType::typeName(qMetaTypeId<CLASS>()))
+                             .replace(u"KTArticleClass"_s, u"Articleclass"_s);
     QMap<CLASS, QString> map;
     QSet<CLASS> set;
     qint64 named = 0;
@@ -77,6 +80,7 @@ void check(int keywords, int values, qint64 unknown)
         const QString keyword = one.encode();
         QVERIFY2(CLASS(keyword) == value, qPrintable(keyword));
         QVERIFY2(one.allPossibleKeywordsOneElement().contains(keyword.toLower()), qPrintable(keyword));
+        QCOMPARE(KTTest::logged(one).remove(u'"'), u"%1: %2 "_s.arg(name, keyword));
         if (one.hasExactlyOneBit())
             named |= value;
         map.insert(one, keyword);
@@ -155,22 +159,7 @@ private Q_SLOTS:
     {
         // In the language of the first use.
         const auto toolTip = [](const QString &text) { return KTCoverType(text).toolTip(); };
-        KTTest::check(
-            toolTip,
-            {"hard -> KTBinding/Stabiler und individuell gestaltbarer Festeinband mit Klebebindung.\n"
-             "Das Cover ist vollständig gestaltbar.",
-             "wall_calendar -> "
-             "KTBinding/Einseitig bedruckte Kalender eignen sich besonders zum Aufhängen,\n"
-             "da die leere Seite zur Wand zeigt, und daher nicht gesehen werden kann.",
-             "calendar_annual_simplex -> "
-             "KTBinding/Ein großformatiger Einseitig bedruckter Jahreskalender gibt übersicht über das "
-             "gesamte Kalenderjahr.\nAlles auf einen Blick.",
-             "cromo -> "
-             "KTBinding/KTBinding/Der hochwertige Leinen-Einband ist in verschiedenen Farben erhältlich.\n"
-             "KTBinding/Das Cover kann nur mit veredelten Elementen gestaltet werden.",
-             "tacked -> KTBinding/Individuell gestaltbarer flexibler Einband mit Rückstichbindung.",
-             "wire-o -> KTBinding/unbekannter Bindungstyp",
-             "hard,soft -> KTBinding/unbekannter Bindungstyp"});
+        KTTest::checkTable(u"tooltips.tsv"_s, toolTip);
         QCOMPARE(KTCoverType::bindingToolTips()->map.size(), 9);
     }
 
@@ -212,22 +201,14 @@ private Q_SLOTS:
 
     void contentHasDirectories()
     {
-        // The directory without and with the flag, what is queried, the description.
         const auto answers = [](int bits) {
             const auto dlpType = KTTest::withBits<KTDlpType>(bits);
-            return KTTest::text(dlpType.dlpPath(false), dlpType.dlpPath(true), dlpType.queryValue(),
-                                dlpType.describe());
+            return KTTest::text(dlpType.dlpPath(false), dlpType.dlpPath(true), dlpType.queryValue());
         };
-        KTTest::check<int>(
-            answers,
-            {"0x1 -> backgrounds|backgrounds|background|1 | background",
-             "0x4 -> predefined_projects|templates|template|4 | template",
-             "0x10 -> cliparts|cliparts|mask|16 | mask",
-             "0x20 -> layoutcollections|layoutcollections|layoutcollection|32 | layoutcollection",
-             "0x80 -> form_parameter_data|form_parameter_data|form_parameter_data|128 | "
-             "form_parameter_data",
-             "0x40 -> ||style_v2|64 | storybook", "0x202 -> styles|styles|style_v2|514 | ",
-             "0x200 -> |||512 | ", "0x248 -> ||style_v2|584 | ", "0x18 -> |||24 | "});
+        KTTest::checkTable<int>(u"contents.tsv"_s, answers);
+        QCOMPARE(KTDlpType(KTDlpTypeClipart).describe(), u"8 | clipart"_s);
+        QVERIFY(KTDirectoryName(KTDirectoryNameStyles) == KTDirectoryNameStyles);
+        QVERIFY(KTDirectoryName() == KTDirectoryName() && KTDirectoryName() != KTDirectoryNameCliparts);
         QVERIFY(KTDlpType(KTDlpTypeLayoutcollection).visibleName().isEmpty());
         QCOMPARE(KTTest::logged(KTDirectoryName(KTDirectoryNameStyles)), u"KTDirectoryName: \"styles\" "_s);
     }

@@ -1,4 +1,5 @@
 #include <KTConfiguredArticleVariant.h>
+#include <KTNamedColor.h>
 #include <KTSpotColor.h>
 
 #include "KTTestSupport.h"
@@ -17,13 +18,7 @@ private Q_SLOTS:
                                 color.isValid() ? color.name(QColor::HexArgb) : QString(),
                                 variant.isValid() == variant.toArticleVariants().isValid());
         };
-        KTTest::check(read,
-                      {" -> |-|-||+",
-                       "key='k' value='v' preselected='TRUE' not_accountable='1' -> k:v|+|+||+",
-                       "key='k' value='' preselected='yes' -> |-|-||+",
-                       "key='k' value='v' color='#FF0000' -> k:v|-|-|#ffff0000|+",
-                       "color='#80FF0000' -> |-|-|#80ff0000|+", "color='red' -> |-|-|#ffff0000|+",
-                       "color='reddish' -> |-|-||+", "color='' -> |-|-||+"});
+        KTTest::checkTable(u"options.tsv"_s, read);
     }
 
     void readsKeywordString()
@@ -44,14 +39,13 @@ private Q_SLOTS:
                 KTTest::element(u"<form key='k' %1/>"_s.arg(attributes)));
             return KTTest::text(variant.describe(), variant.visibleName());
         };
-        KTTest::check(
-            described,
-            {"value='v' key_name=' Cover  colour' value_name='&lt;b>&amp;' -> Cover colour: <b>&|<b>&",
-             "value='v' value_name='Black' color='red' -> |Black", "value='v' key_name='Cover' -> Cover:|",
-             "key_name='%2' value_name='Black' -> %2: Black|",
-             "value='v' key_name='Cover' value_name='Red' color='#80ff0000' -> Cover: "
-             "<span style=\"background-color:rgba(255,0,0,0.5020)\">&nbsp;&nbsp;&nbsp;&nbsp;</span> "
-             "Red|Red"});
+        const auto swatch = [](const QString &color) {
+            return KTNamedColor::renderColorPreviewHTML(QColor(color)).section(u'"', 1, 1);
+        };
+        KTTest::check(swatch,
+                      {" -> ", "#010203 -> background-color:#010203",
+                       "#01010203 -> background-color:rgba(1,2,3,0.0040)"});
+        KTTest::checkTable(u"optiontexts.tsv"_s, described);
     }
 
     void comparesKeyAndValueButOrdersByKeyName()

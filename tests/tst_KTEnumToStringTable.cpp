@@ -29,6 +29,7 @@ const QVector<Row> ROWS = {
     {u"dark green"_s, 64 },
     {u"\u00c4k"_s,    32 },
     {u"i\u0307k"_s,   128},
+    {u"zero"_s,       0  },
 };
 const int UNKNOWN = 16;
 
@@ -144,7 +145,7 @@ private Q_SLOTS:
         };
         KTTest::check<int>(encoded,
                            {"1 -> Red|Red|Red", "9 -> warm|Red, blue|warm", "3 -> any|Red, GREEN|Red, GREEN",
-                            "13 -> any|Red, any, blue|13", "0 -> any|any|0",
+                            "13 -> any|Red, any, blue|13", "5 -> any|Red, any|5", "0 -> zero|any|zero",
                             "-2147483648 -> any|any|-2147483648", "1073741824 -> any|any|1073741824"});
     }
 

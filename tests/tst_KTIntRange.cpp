@@ -2,8 +2,7 @@
 #include <KTIntRange.h>
 
 #include "KTBoundaries.h"
-
-#include <QtTest>
+#include "KTTestSupport.h"
 
 using KTTest::toInt;
 using KTTest::Wide;
@@ -17,6 +16,8 @@ private Q_SLOTS:
         const KTIntRange range(1, 5);
         const KTIntRange invalid(2, 1);
         QVERIFY(KTIntRange(0, 9) < range && KTIntRange(1, 4) < range && !(range < range));
+        QVERIFY(range.isValid() && KTIntRange(2, 2).isValid() && !invalid.isValid());
+        QCOMPARE(KTTest::logged(range), u"\"KTIntRange: 1 - 5\" "_s);
         QVERIFY(range < invalid && !(invalid < range) && !(invalid < KTIntRange(4, 3)));
         QVERIFY(range.contains(range) && range.contains(KTIntRange(2, 5)) && range.contains(invalid));
         QVERIFY(!range.contains(KTIntRange(0, 5)) && !range.contains(KTIntRange(1, 6)));

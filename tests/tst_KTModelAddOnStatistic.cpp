@@ -30,13 +30,17 @@ private Q_SLOTS:
     {
         QCOMPARE(KTTest::logged(KTModelAddOnStatistic()),
                  u"KTModelAddOnStatistic: KTContentStatistic: 0 0 QMap() \"VDO1\" \"\" \"\" \"\" "_s);
-        KTModelAddOnStatistic statistic(KTContentStatistic(), KTPriceClass(), u"FOP1"_s);
+        const KTContentStatistic content(1, 2, QMap<KTPriceClass, int>());
+        QCOMPARE(KTModelAddOnStatistic(content).videoAddOn().toString(), u"VDO1"_s);
+        const QString text = u"KTModelAddOnStatistic: KTContentStatistic: 1 2 QMap() "_s;
+        KTModelAddOnStatistic statistic(content, u"VDO2"_s, u"FOP1"_s);
+        QCOMPARE(KTTest::logged(statistic), text + u"\"VDO2\" \"FOP1\" \"\" \"\" "_s);
+        statistic.setVideoAddOn(u"VDO3"_s);
+        statistic.setSpotColorAddOn(u"FOP2"_s);
         statistic.setFlyLeafAddOn(u"FLF1"_s, KTArticleVariants(u"flyleafcolor:red"_s));
         statistic.setDesignStyleAddOns({u"91"_s});
-        QCOMPARE(KTTest::text(statistic.videoAddOn().toString(), statistic.spotColorAddOn().toString(),
-                              statistic.flyLeafAddOn().toString(), statistic.flyLeafVariants(),
-                              statistic.designStyleAddOns().toString()),
-                 u"|FOP1|FLF1|flyleafcolor = red|91"_s);
+        QCOMPARE(KTTest::logged(statistic),
+                 text + u"\"VDO3\" \"FOP2\" \"FLF1\" \"flyleafcolor = red\" \"91\" "_s);
     }
 };
 

@@ -37,12 +37,20 @@ private Q_SLOTS:
     void answersLikeAList()
     {
         KTPageCountOrganizationListModel model;
-        model.setPageOrganization(KTPageCountOrganization(KTIntRange(24, 96), 4), false);
+        model.setPageOrganization(KTPageCountOrganization(KTIntRange(24, 98), 4), false);
         const QModelIndex index = model.index(3, 0);
         QVERIFY(!index.data(Qt::EditRole).isValid() && !model.data(QModelIndex(), Qt::DisplayRole).isValid());
         QVERIFY(!index.parent().isValid() && model.columnCount(index) == 1 && model.rowCount(index) == 19);
-        QVERIFY(model.lowestValue() == 24 && model.highestValue() == 96);
+        QVERIFY(model.lowestValue() == 24 && model.highestValue() == 98);
         QVERIFY(model.pagesAtIndex(3) == 36 && model.indexForPages(36) == 3);
+
+        // Who hears of a reset sees what was there, and then what is there.
+        QStringList seen;
+        const auto look = [&] { seen.append(model.index(0, 0).data().toString()); };
+        connect(&model, &QAbstractItemModel::modelAboutToBeReset, look);
+        connect(&model, &QAbstractItemModel::modelReset, look);
+        model.setPageOrganization(KTPageCountOrganization(KTIntRange(1, 9), 2), true);
+        QCOMPARE(seen.join(u'|'), u"24 Seiten|1 Fotos"_s);
     }
 
     void isAConsistentModel()

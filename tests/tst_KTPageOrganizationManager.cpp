@@ -98,6 +98,13 @@ private Q_SLOTS:
         QCOMPARE(outer, inner);
         QCOMPARE(manager->organization(type(999))->minPages(), 999);
         QCOMPARE(calculator->calls.load(), 1001);
+
+        calculator->calls = 0;
+        calculator->beforeFirst = [manager] { manager->clearCache(); };
+        manager->clearCache();
+        // Remembered in the cache as it is afterwards.
+        QCOMPARE(manager->organization(type(0)), manager->organization(type(0)));
+        QCOMPARE(calculator->calls.load(), 1);
     }
 
     void survivesAThrowingCalculator()
@@ -127,7 +134,12 @@ private Q_SLOTS:
 
         std::atomic<int> wrong {0};
         KTTest::runInThreads(4, [&](int thread) {
+            // What the managers give out is kept together.
+            KTPageOrganizationManager own;
+            own.setCalculator(new Calculator);
             for (int i = 0; i < 200; ++i) {
+                if (own.organization(type(i))->minPages() != i)
+                    ++wrong;
                 if (thread == 0)
                     manager.clearCache();
                 else if (thread == 1 && i % 20 == 0)

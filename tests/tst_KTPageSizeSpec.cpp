@@ -36,7 +36,8 @@ private Q_SLOTS:
                 const int sum = toInt(Wide(a) + b);
                 QCOMPARE(sides.totalMarginWH(), QSize(sum, sum));
                 for (const int c : KTTest::INTS) {
-                    KTPageSizeSpec any(QSize(c, c), sides);
+                    KTPageSizeSpec any(QSize(), sides);
+                    any.setUsableSize(QSize(c, c));
                     const int total = toInt(Wide(a) + b + c);
                     QCOMPARE(any.totalSize(), QSize(total, total));
                     any.setUsableSlipcaseCoverSize(QSize(a, b));
@@ -98,7 +99,7 @@ private Q_SLOTS:
         const KTPageSizeKey page(KTPageTypeNormalpage, 24);
         QVERIFY(qHash(key) != qHash(page) && KTPageSizeKey() == KTPageSizeKey(KTPageType(), 0));
         QVERIFY(!(page < key) && !(key < page) && page != key && page < other && !(other < page));
-        QVERIFY(key.isValid() && KTPageSizeKey(KTPageTypeCover, 0).isValid());
+        QVERIFY(key.isValid() && key.pageCount() == 24 && KTPageSizeKey(KTPageTypeCover, 0).isValid());
         QVERIFY(!KTPageSizeKey(KTPageTypeCover, -1).isValid() && !KTPageSizeKey(KTPageType(), 1).isValid());
         for (const KTPageAlignmentEnum alignment : {KTPageAlignmentLeft, KTPageAlignmentCenter})
             QVERIFY(key.pageContext().matchesWith(KTPageContext(KTPageTypeSpine, alignment)));
@@ -107,6 +108,9 @@ private Q_SLOTS:
     void dumps()
     {
         QCOMPARE(KTTest::logged(context(8, 2)), u"normalpage right "_s);
+        QCOMPARE(
+            KTTest::text(KTBleedMargin(1, 2), KTMargins(1, 2, 3, 4)),
+            u"KTBleedMargin: horizontal: 1; vertical: 2|KTMargins: top: 1; bottom: 2; left: 3; right: 4"_s);
         // No keyword stands for all alignments, hence two blanks; and one is added where the stream adds
         // none.
         QCOMPARE(KTTest::logged(KTPageSizeKey(KTPageTypeCover, -24)), u"cover  -24 "_s);

@@ -67,6 +67,7 @@ private Q_SLOTS:
         QCOMPARE(agreeing.asked, 4);
         QCOMPARE(objecting.asked, 4);
         QCOMPARE(never.asked, 0);
+        QVERIFY(registry.isValidBoxStyle(productType(1), KTArticleVariants::blackCFBGiftBox(), FIRST));
     }
 
     void remembersUntilTold()

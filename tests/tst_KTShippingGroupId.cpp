@@ -40,6 +40,7 @@ private Q_SLOTS:
         QCOMPARE(QJsonDocument(object).toJson(QJsonDocument::Compact), QByteArray("{\"id\":-1}"));
         QCOMPARE(KTTest::streamed(KTShippingGroupId(18)), QByteArray("0000000400310038"));
         QCOMPARE(KTTest::logged(KTShippingGroupId(18)), u"\"18\" "_s);
+        QVERIFY(KTTest::isLess(KTShippingGroupId(-8), KTShippingGroupId(8)));
     }
 
     void filtersLists()

@@ -56,8 +56,6 @@ private Q_SLOTS:
 
     void knowsItsFacts()
     {
-        // The name, the normal size, the images, the font, the photos of portraits and of squares and
-        // landscapes.
         const auto facts = [](int value) {
             const KTSpaceMagnitude one = magnitude(value);
             const double portrait = one.optimumFotosPerPage(KTOrientationPortraitSlim);
@@ -68,11 +66,7 @@ private Q_SLOTS:
                                 one.maxReasonableImagesPerPage(), one.suitableFontSizeInPoints(), portrait,
                                 square, areSame);
         };
-        KTTest::check<int>(facts,
-                           {"0 -> Undefiniert|0|1|12|2.1|2.1|+", "1 -> Undefiniert|50|1|12|1.5|1.5|+",
-                            "8 -> Compact Quadratisch|225|1|12|1.5|1.5|+", "32 -> A5|310|5|12|1.5|1.5|+",
-                            "128 -> A4|625|8|16|2.8|3|+", "512 -> A3|1250|14|24|3.2|3.2|+",
-                            "2048 -> A2|2500|14|32|4|4|+", "192 -> Undefiniert|0|1|12|2.1|2.1|+"});
+        KTTest::checkTable<int>(u"magnitudes.tsv"_s, facts);
     }
 
     void readsNames()

@@ -73,19 +73,14 @@ private Q_SLOTS:
         const auto read = [](QString children) {
             children.replace(
                 u"%1"_s,
-                u"<spine packages_per_block='3' base_width='5' block_width='1' additional_width='0.5'/>"_s);
+                u"<spine packages_per_block='3' base_width='5' block_width='1' additional_width='0.55'/>"_s);
             const KTSpineConfig config = KTSpineConfig::createFromProductsXML(
                 KTTest::element(u"<page pages='24' max_pages='96' page_step='2'>%1</page>"_s.arg(children)));
             return KTTest::text(config.isValid(), config.spineWidth(24).layoutUnits(),
-                                config.spineWidth(30).layoutUnits(), config.coverReduceSize());
+                                config.spineWidth(30).layoutUnits(),
+                                config.additionalSpineWidth().layoutUnits(), config.coverReduceSize());
         };
-        KTTest::check(
-            read,
-            {"<composition>%1</composition> -> +|60|70|5",
-             "<composition units=''>%1</composition> -> +|60|70|5",
-             "<composition units='cm'>%1</composition> -> +|600|700|50", "%1 -> +|0|0|0",
-             "<composition/><composition>%1</composition> -> +|0|0|0",
-             "<composition><spine base_width='nan' block_width='inf'/>%1</composition> -> +|0|0|0"});
+        KTTest::checkTable(u"spines.tsv"_s, read);
         QVERIFY(!KTSpineConfig().isValid());
     }
 
@@ -107,18 +102,23 @@ private Q_SLOTS:
     void choosesTheFontSize_data()
     {
         const KTTest::Rows<QList<int>, double, int> row;
-        // Base widths of which, with two blocks, the printable share is just the line of 150 points, or less.
-        QFont font;
-        font.setPixelSize(200);
-        const int line = QFontMetrics(font).lineSpacing();
-        const double fits = line / 0.85 - 10.0;
-        const double fitsNot = (line - 0.6) / 0.85 - 10.0;
+        // A size whose line is half a unit more than the printable share of some width, and odd, so that the
+        // share is rounded up neither by truncation nor to the nearest even number.
+        int size = 30;
+        int line = 0;
+        for (QFont font; line % 34 != 9; line = QFontMetrics(font).lineSpacing()) {
+            size += 3;
+            font.setPixelSize(size * 4 / 3);
+        }
+        // Base widths that make such a width, with two blocks, and one that is too small.
+        const double fits = (2 * line - 1) / 17 * 10 - 10;
+        const double fitsNot = fits - 0.2;
         row("no sizes", {}, fits, 0);
         row("one size is never measured", {400}, 0.0, 400);
-        row("fits exactly", {10, 15, 150, 400}, fits, 150);
-        row("just too tall", {10, 15, 150, 400}, fitsNot, 15);
-        row("all fit", {10, 15, 150}, 1000.0, 150);
-        row("the first too tall one ends it", {10, 400, 150}, fits, 10);
+        row("fits exactly", {10, 15, size, 5 * size}, fits, size);
+        row("just too tall", {10, 15, size, 5 * size}, fitsNot, 15);
+        row("all fit", {10, 15, size}, 9000.0, size);
+        row("the first too tall one ends it", {10, 5 * size, size}, fits, 10);
         row("sizes that are none", {-5, 0, INT_MAX}, fits, 0);
     }
     void choosesTheFontSize()
@@ -138,13 +138,20 @@ private Q_SLOTS:
     void survivesAnyWidth()
     {
         const QList<int> sizes = KTFontSizeManager::instance()->defaultFontSizes();
-        QVERIFY(sizes.size() > 2 && sizes.first() > 0 && std::is_sorted(sizes.begin(), sizes.end()));
+        QCOMPARE(KTTest::text(sizes),
+                 u"(6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72)"_s);
         for (const double width : KTTest::DOUBLES) {
             QCOMPARE(config(1, 2, width).coverReduceSize(), toInt(width));
             const int size = config(width, 2, 3).spineMaxFontHeigth(24, QString());
             QCOMPARE(size, width > 1000 ? sizes.last() : sizes.first());
         }
-        QCOMPARE(KTFontCreator::instance()->createFont(QString(), INT_MAX).pointSize(), 10000);
+        const KTFontCreator *const fonts = KTFontCreator::instance();
+        QCOMPARE(fonts->defaultFontFamily(), QGuiApplication::font().family());
+        const auto created = [fonts](int size) {
+            const QFont font = fonts->createFont(u"Any"_s, size);
+            return KTTest::text(font.family(), font.pointSize());
+        };
+        KTTest::check<int>(created, {"-2147483648 -> Any|1", "1 -> Any|1", "10001 -> Any|10000"});
     }
 };
 

@@ -55,6 +55,14 @@ private Q_SLOTS:
                        "cm -> 250|2.5|2", "pt -> 8.81944444444|2.5|2"});
     }
 
+    void computesWithDistances()
+    {
+        const KTDistance two(2.0, KTDistanceUnitLayout);
+        const KTDistance more(2.5, KTDistanceUnitLayout);
+        QVERIFY(two < more && !(more < two) && two != more && KTDistance() == two * 0.0);
+        QCOMPARE(KTTest::logged(two - more * 3 + two), u"KTDistance: -3.5 "_s);
+    }
+
     void warnsOfUnknownUnit()
     {
         const KTMessageRecorder recorder;
