@@ -18,6 +18,16 @@ void KTFuzz::fail(const char *file, int line, const char *promise)
     std::abort();
 }
 
+QString KTFuzz::Bytes::takeLine()
+{
+    const QByteArray line(begin, static_cast<int>(std::find(begin, end, '\n') - begin));
+    begin += std::min<std::ptrdiff_t>(line.size() + 1, end - begin);
+    // Byte by byte, because the text may stand at an odd address.
+    QString text((line.size() - 1) / 2, Qt::Uninitialized);
+    std::memcpy(text.data(), line.constData() + 1, sizeof(QChar) * static_cast<std::size_t>(text.size()));
+    return line.startsWith('\xff') ? text : QString::fromUtf8(line);
+}
+
 void KTFuzz::setUp()
 {
     // The same run each time, so that a finding can be repeated.

@@ -2,10 +2,11 @@
 
 #include <KTBoundaries.h>
 
-#include <QByteArray>
 #include <QDebug>
 #include <QString>
 
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 // Ends the process, as libFuzzer expects it, when a promise of the library is broken.
@@ -14,14 +15,36 @@
 /** The fuzz targets, each asked for any bytes at all, and what they share. */
 namespace KTFuzz {
 
-/** Elements, built as the bytes say, through every reader of elements and every query. */
-void elements(const QByteArray &input);
-/** Each of a few lines as a text through every reader of texts, the writers, and the readers again. */
-void texts(const QByteArray &input);
-/** A whole catalogue file, through the inspector. */
-void catalogue(const QByteArray &input);
+/** An input, taken from its front; at its end there are zeros and empty lines. */
+struct Bytes
+{
+    const char *begin;
+    const char *end;
 
-constexpr std::pair<const char *, void (*)(const QByteArray &)> TARGETS[] = {
+    template <typename NUMBER>
+    NUMBER take()
+    {
+        NUMBER number = 0;
+        const std::size_t size = std::min(sizeof number, static_cast<std::size_t>(end - begin));
+        std::memcpy(&number, begin, size);
+        begin += size;
+        return number;
+    }
+    /** The place in a table of so many entries that the next byte chooses. */
+    int takeIndex(int size) { return take<uchar>() % size; }
+    /** Up to the end of the line, in UTF-8; after the byte ff, as raw UTF-16, which may be malformed. */
+    QString takeLine();
+};
+
+/** Elements, built as the bytes say, through the readers of elements and the queries. */
+void elements(Bytes input);
+/** A number and two texts through the readers of texts, the writers, and the readers again. */
+void texts(Bytes input);
+/** A catalogue file, through the inspector. */
+void catalogue(Bytes input);
+
+// The first byte of an input chooses what is asked, so that each of them costs little.
+constexpr std::pair<const char *, void (*)(Bytes)> TARGETS[] = {
     {"elements",  &elements },
     {"texts",     &texts    },
     {"catalogue", &catalogue},

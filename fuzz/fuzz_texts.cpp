@@ -39,12 +39,18 @@ using namespace KTFuzz;
 
 namespace {
 
-// More would only slow each run down.
-constexpr int MAXIMUM_LINES = 4;
+/** A number that the bits choose, among them those at which arithmetic goes wrong. */
+template <typename TABLE>
+auto chosenFrom(const TABLE &table, qint64 bits)
+{
+    const auto choice = static_cast<std::size_t>(bits & 0x1f);
+    using Number = std::decay_t<decltype(*std::begin(table))>;
+    return choice < std::size(table) ? table[choice] : static_cast<Number>(bits >> 5);
+}
 
 /** Reads and writes keywords of one classification; the bits stand for a value that came as a number. */
 template <typename CLASS>
-void askKeywords(const QString &text, qint64 bits)
+void askKeywords(const QString &text, const QString &, qint64 bits)
 {
     using Enum = std::decay_t<decltype(CLASS().value())>;
     const CLASS read(text);
@@ -74,30 +80,24 @@ void askKeywords(const QString &text, qint64 bits)
     }
 }
 
-template <typename... CLASS>
-void askAllKeywords(const QString &text, qint64 bits)
-{
-    (askKeywords<CLASS>(text, bits), ...);
-}
-
 /** The rules of the classifications, with a value of any bits. */
-void askRules(const QString &text, qint64 bits)
+void askRules(const QString &text, const QString &other, qint64 bits)
 {
-    QDomDocument document;
-    QDomElement parent = document.createElement(QStringLiteral("parent"));
+    // Making a document would cost more than all the rest.
+    static QDomDocument *const document = new QDomDocument;
+    QDomElement parent = document->createElement(QStringLiteral("parent"));
     const auto small = static_cast<qint32>(bits);
-    for (const KTArticleClass &value : {KTArticleClass(text), KTArticleClass(KTArticleClassEnum(bits))}) {
-        use(value.shippingGroup(), value.toHumanReadable(), value.toPHProjectCategory(), value.maxAmount(),
-            value.canModifyABK(), KTFotoPaperType::defaultFor(value));
-        KT_REQUIRE(!KTArticleClass::lessThanShopCart(value.value(), value.value()));
-        value.toTemplates2Format(parent);
-    }
+    const KTArticleClass value = bits < 0 ? KTArticleClass(text) : KTArticleClassEnum(bits);
+    use(value.shippingGroup(), value.toHumanReadable(), value.toPHProjectCategory(), value.maxAmount(),
+        value.canModifyABK(), KTFotoPaperType::defaultFor(value));
+    KT_REQUIRE(!KTArticleClass::lessThanShopCart(value.value(), value.value()));
+    value.toTemplates2Format(parent);
     const KTPageType pageType(KTPageTypeEnum {small});
     const KTPageAlignment alignment(text);
     use(pageType.renderingRule(), pageType.productionRenderingRule(), pageType.explicitOrderPageNumber(),
         pageType.acceptTemplateRule(), pageType.acceptFotoRule(), KTPageContext(pageType, alignment).dump(),
         pageType.isSpotColorAllowed({KTSpotColor(text)}), alignment.describe(),
-        alignment.modifyProductionPath(text, bits & 1));
+        alignment.modifyProductionPath(other, bits & 1));
     const KTCoverType cover(KTCoverTypeEnum {bits});
     use(cover.humanReadableName(), cover.toolTip(), cover.isFullCover(),
         KTCoverType::createFromHumanReadable(text), KTPaperType::createFromHumanReadable(text),
@@ -106,23 +106,26 @@ void askRules(const QString &text, qint64 bits)
         KTDlpType(KTDlpTypeEnum {small}).describe(), KTDlpType(text).queryValue(),
         KTPriceClassSet::spotColorPriceClasses(KTSpotColorEnum {small}).toString());
     KTPageBinding(KTPageBindingEnum {small}).toTemplates2Format(parent);
-    const KTSpaceMagnitude magnitude(KTSpaceMagnitudeEnum {small});
-    const KTOrientation orientation(text);
-    use(magnitude.adaptFont(QFont(), KTSpaceMagnitude(text)), magnitude.optimumFotosPerPage(orientation),
-        orientation.reduceToBasics(), orientation.encodeForDLP(), KTDistanceUnit(text).units2Pixels(1e300));
-    orientation.toTemplates2Format(parent);
-    for (const int number : KTTest::INTS)
-        use(orientation.foldMargin(number), KTSpaceMagnitude::fromSquareCentimeters(number),
-            KTFontCreator::instance()->createFont(text, number));
-    for (const double number : KTTest::DOUBLES) {
-        QFont font;
-        font.setPointSizeF(number);
-        const KTDistance distance(number, KTDistanceUnit(text));
-        use(KTOrientation(text, QSizeF(number, small)), KTOrientation(QSizeF(1, number)), debugText(distance),
-            KTSpaceMagnitude::estimateByAreaSizes(number), magnitude.adaptFont(font, KTSpaceMagnitude(text)),
-            KTOrientation::createFromPageTilt(KTAngle(number)),
-            (distance * number).value(KTDistanceUnitPoint));
-    }
+    KTOrientation(text).toTemplates2Format(parent);
+}
+
+/** The rules that take numbers, with any of them. */
+void askNumbers(const QString &text, const QString &other, qint64 bits)
+{
+    const int integer = chosenFrom(KTTest::INTS, bits);
+    const double number = chosenFrom(KTTest::DOUBLES, bits >> 8);
+    const KTSpaceMagnitude magnitude(static_cast<KTSpaceMagnitudeEnum>(bits >> 16));
+    const KTOrientation orientation(other);
+    static const QFont *const font = new QFont;
+    QFont sized(*font);
+    sized.setPointSizeF(number);
+    const KTDistance distance(number, KTDistanceUnit(text));
+    use(magnitude.adaptFont(sized, KTSpaceMagnitude(text)), magnitude.optimumFotosPerPage(orientation),
+        orientation.reduceToBasics(), orientation.encodeForDLP(), KTDistanceUnit(text).units2Pixels(1e300),
+        orientation.foldMargin(integer), KTSpaceMagnitude::fromSquareCentimeters(integer),
+        KTFontCreator::instance()->createFont(text, integer), KTOrientation(text, QSizeF(number, integer)),
+        KTOrientation(QSizeF(1, number)), debugText(distance), (distance * number).value(KTDistanceUnitPoint),
+        KTSpaceMagnitude::estimateByAreaSizes(number), KTOrientation::createFromPageTilt(KTAngle(number)));
 }
 
 bool survivesMCF(const QString &text)
@@ -146,14 +149,15 @@ void askVariants(const KTArticleVariants &variants, const KTArticleVariants &oth
     use(debugText(variants), variants.hasCoverColor(), other.containsAtLeastOne(variants));
 }
 
-void readVariants(const QString &text, const QString &other)
+void readVariants(const QString &text, const QString &other, qint64 bits)
 {
-    const KTArticleVariants variants = KTArticleVariants::createFromMCF(text);
-    askVariants(variants, KTArticleVariants::createFromMCF(other));
-    askVariants(KTArticleVariants(text), variants);
-    askVariants(KTArticleVariants(text, other), variants);
-    askVariants(KTArticleVariants(QJsonArray {text, other}), variants);
+    const KTArticleVariants variants(other);
+    const bool isPair = (bits & 1) != 0;
+    askVariants(isPair ? KTArticleVariants(text, other) : KTArticleVariants::createFromMCF(text), variants);
+}
 
+void readOffer(const QString &text, const QString &other, qint64)
+{
     const KTConfiguredArticleVariantList offer = KTConfiguredArticleVariantList::createFromCSV(text);
     for (const KTConfiguredArticleVariant &option : offer) {
         const bool isPlain = survivesMCF(option.key()) && survivesMCF(option.value());
@@ -161,10 +165,10 @@ void readVariants(const QString &text, const QString &other)
         KT_REQUIRE(offer.contains(option.toArticleVariants()));
         use(option.describe());
     }
-    use(offer.joinForOrderTxt(), offer.visibleNames(variants), offer.possibleBoxStyles());
+    use(offer.joinForOrderTxt(), offer.visibleNames(KTArticleVariants(other)), offer.possibleBoxStyles());
 }
 
-void readJSON(const QString &text)
+void readJSON(const QString &text, const QString &other, qint64)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     QJsonObject object = document.object();
@@ -174,10 +178,11 @@ void readJSON(const QString &text)
     KT_REQUIRE(KTArticleId(object) == id && KTArticleId(object, KTArticleId::defaultKey()) == id);
     group.toJSON(object);
     KT_REQUIRE(KTShippingGroupId(object) == group);
-    askVariants(KTArticleVariants(document.array()), KTArticleVariants(text));
+    const QJsonArray array = document.isArray() ? document.array() : QJsonArray {text, other};
+    askVariants(KTArticleVariants(array), KTArticleVariants(other));
 }
 
-void readCodes(const QString &text, const QString &other)
+void readCodes(const QString &text, const QString &other, qint64)
 {
     const KTProductType type(text);
     checkHash(type, KTProductType(other));
@@ -201,25 +206,20 @@ void readCodes(const QString &text, const QString &other)
     KT_REQUIRE(path.isEmpty() || path.startsWith(KTDirectoryConfig::instance()->resourceRoot()));
 }
 
+template <typename... CLASS>
+constexpr void (*QUESTIONS[])(const QString &text, const QString &other, qint64 bits)
+    = {askRules, askNumbers, readVariants, readOffer, readJSON, readCodes, askKeywords<CLASS>...};
+
 } // namespace
 
-void KTFuzz::texts(const QByteArray &input)
+void KTFuzz::texts(Bytes input)
 {
-    QString other;
-    for (const QByteArray &line : input.split('\n').mid(0, MAXIMUM_LINES)) {
-        // A byte that begins no UTF-8 text marks raw UTF-16, which may be malformed.
-        const bool isRaw = line.startsWith('\xff');
-        const QString text = isRaw
-            ? QString(reinterpret_cast<const QChar *>(line.constData()), line.size() / 2)
-            : QString::fromUtf8(line);
-        const qint64 bits = text.toLongLong(nullptr, 0);
-        askAllKeywords<KTArticleClass, KTCoverType, KTDistanceUnit, KTDlpType, KTFotoPaperType,
-                       KTMaterialType, KTOrientation, KTPageAlignment, KTPageBinding, KTPageType, KTPaperType,
-                       KTProductArrangement, KTSpaceMagnitude, KTSpotColor>(text, bits);
-        askRules(text, bits);
-        readVariants(text, other);
-        readJSON(text);
-        readCodes(text, other);
-        other = text;
-    }
+    const auto &questions
+        = QUESTIONS<KTArticleClass, KTCoverType, KTDistanceUnit, KTDlpType, KTFotoPaperType, KTMaterialType,
+                    KTOrientation, KTPageAlignment, KTPageBinding, KTPageType, KTPaperType,
+                    KTProductArrangement, KTSpaceMagnitude, KTSpotColor>;
+    const auto ask = questions[input.takeIndex(int(std::size(questions)))];
+    const auto bits = input.take<qint64>();
+    const QString text = input.takeLine();
+    ask(text, input.takeLine(), bits);
 }

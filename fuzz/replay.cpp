@@ -17,7 +17,8 @@ int main(int argc, char **argv)
             KT_REQUIRE(file.open(QIODevice::ReadOnly));
             std::printf("%s/%s\n", target, qPrintable(name));
             std::fflush(stdout);
-            run(file.readAll());
+            const QByteArray input = file.readAll();
+            run({input.begin(), input.end()});
         }
         KT_REQUIRE(!names.isEmpty());
     }
