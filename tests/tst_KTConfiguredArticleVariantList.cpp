@@ -69,8 +69,7 @@ private Q_SLOTS:
         KTTest::check(expanded,
                       {"alcolor:black,,boxstyle,:x,a: -> alcolor:black|alcolor:black",
                        "c:1,gift;box:black;wood -> c:1 gift;box:black;wood|c:1;gift:black;box:wood",
-                       "a;b:1, c: 2 -> a;b:1  c: 2| c: 2", ";:; -> ;:;|",
-                        "x:y,a%2:b -> x:y a%2:b|x:y;ab:b"});
+                       "a;b:1, c: 2 -> a;b:1  c: 2| c: 2", ";:; -> ;:;|", "x:y,a%2:b -> x:y a%2:b|x:y;ab:b"});
     }
 
     void matchesChoice()

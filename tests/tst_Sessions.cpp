@@ -5,7 +5,7 @@
 
 namespace {
 
-const QString DATA = QStringLiteral(KT_DATA);
+const QString DATA = QStringLiteral(KT_TEST_DATA);
 const QString SESSION = u"session.txt"_s;
 const QString PROMPT = u"$ "_s;
 const QString REMARK = u"// "_s;
