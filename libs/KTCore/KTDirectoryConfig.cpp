@@ -43,7 +43,7 @@ QString installedRoot()
 /** The folder that the environment names; empty, with a warning, where that is no folder. */
 QString environmentRoot()
 {
-    const QString root = QFile::decodeName(qgetenv(ROOT_VARIABLE));
+    QString root = QFile::decodeName(qgetenv(ROOT_VARIABLE));
     if (root.isEmpty() || QFileInfo(root).isDir())
         return root;
     QMessageLogger("libs/KTCore/KTDirectoryConfig", __LINE__, Q_FUNC_INFO, "default").warning()

@@ -74,7 +74,7 @@ mode_t newFileMode()
 
 QString KTFileName::fromBytes(const QByteArray &bytes)
 {
-    const QString whole = QString::fromUtf8(bytes);
+    QString whole = QString::fromUtf8(bytes);
     if (whole.toUtf8() == bytes)
         return whole;
     QString text;
@@ -139,15 +139,14 @@ QString KTFileName::replaceFile(const QString &name, const QByteArray &content)
         && file.write(content) == content.size() && file.flush();
     if (!isWritten) {
         // Less may be written without an error.
-        const QString error = file.error() == QFileDevice::NoError
-            ? QStringLiteral("it cannot be written whole")
-            : file.errorString();
+        QString error = file.error() == QFileDevice::NoError ? QStringLiteral("it cannot be written whole")
+                                                             : file.errorString();
         unlink(temporary.constData());
         return error;
     }
     if (fchmod(descriptor, status ? status->st_mode & 07777 : newFileMode()) != 0
         || rename(temporary.constData(), target.constData()) != 0) {
-        const QString reason = systemError();
+        QString reason = systemError();
         unlink(temporary.constData());
         return reason;
     }
