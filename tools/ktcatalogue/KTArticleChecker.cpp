@@ -181,7 +181,8 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
         ? QStringLiteral("an empty entry in %1").arg(quoted(text))
         : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), QString::fromLatin1(row.name));
     if (unknown.size() > 1)
-        message += QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
+        message += unknown.size() == 2 ? QStringLiteral(" (nor is 1 more)")
+                                       : QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
     const QString readAs = classification->unknownReadAs();
     message += readAs.isEmpty()
         ? QStringLiteral("; the application reads nothing from it")
