@@ -130,7 +130,6 @@ QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
     for (const KTArticleModel::Page &page : article.pages) {
         lines.append(line(QStringLiteral("page size"),
                           QStringLiteral("%1  %2, with bleed %3")
-
                               .arg(page.context.pageType().encode(), millimeters(page.size.usableSize()),
                                    millimeters(page.size.totalSize()))));
         if (page.size.usableSlipcaseCoverSize().isValid())
