@@ -1,5 +1,4 @@
 #include <KTCatalogueFormat.h>
-#include <KTClassifications.h>
 
 #include <QFile>
 
@@ -24,10 +23,10 @@ int main(int argc, char **argv)
         for (const KTKeywordInfo &keyword : classification.keywords())
             words += keyword.aliases + QStringList(keyword.written);
     }
-    for (const QString &element : KTCatalogueFormat::instance().elementNames())
-        words.append(u'<' + element);
-    for (const KTAttributeRow &attribute : KTCatalogueFormat::instance().attributes())
-        words.append(QString::fromLatin1(attribute.name) + u'=');
+    for (const KTElementRow &element : KTCatalogueFormat::elements())
+        words.append(u'<' + element.name.toString());
+    for (const KTAttributeRow &attribute : KTCatalogueFormat::attributes())
+        words.append(attribute.name.toString() + u'=');
     words.removeDuplicates();
 
     QFile file(QString::fromLocal8Bit(argv[argc - 1]));

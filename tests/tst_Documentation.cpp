@@ -43,6 +43,25 @@ QStringList captures(const QString &text, const QString &pattern)
     return found;
 }
 
+/** The attribute as a row of the format's page. */
+QString documentedRow(const KTAttributeRow &row, const QString &element)
+{
+    QString meaning = QString::fromUtf8(row.meaning);
+    if (row.type == KTAttributeType::Keywords) {
+        meaning.chop(1);
+        meaning += u" (`%1`)."_s.arg(KTClassification::of(row.classification).className());
+    }
+    const QString text = row.defaultText();
+    const bool isCode = row.type == KTAttributeType::Keywords
+        ? text != u"nothing"
+        : row.type == KTAttributeType::Text || row.type == KTAttributeType::Unit || text == u"false";
+    return u"| `%1`%2 | %3 | %4 |"_s.arg(
+        row.name, element.isEmpty() ? QString() : u" (of `%1`)"_s.arg(element), meaning,
+        text.isEmpty() ? u"empty"_s
+            : isCode   ? u'`' + text + u'`'
+                       : text);
+}
+
 /** "articles[].id number" and the like for each value in the document. */
 void collectMembers(const QJsonValue &value, const QString &path, QSet<QString> *members)
 {
@@ -97,19 +116,21 @@ private Q_SLOTS:
 
     void listsAttributes()
     {
-        // In the first of three cells, with the element unless that is the last one in the heading.
-        const QString name = u"`(\\w+)`(?: \\(of `(\\w+)`\\))?(?=(?:[^|\n]*\\|){3}$)"_s;
         QStringList documented;
-        for (const QString &section : contentOf(u"docs/catalogue-format.md"_s).split(u"\n## "_s)) {
-            const QString element = u' ' + section.section(u'\n', 0, 0).section(u'`', -2, -2);
-            for (const QString &attribute : captures(section, name))
-                documented.append(attribute.contains(u' ') ? attribute : attribute + element);
-        }
         QStringList known;
-        const KTCatalogueFormat &format = KTCatalogueFormat::instance();
-        for (const KTAttributeRow &row : format.attributes())
-            known.append(QString::fromLatin1(row.name) + u' ' + format.elementName(row.element));
-        QCOMPARE(documented, known);
+        for (const QString &section : contentOf(u"docs/catalogue-format.md"_s).split(u"\n## "_s)) {
+            // A table for two elements names the first one; the other one is the last in the heading.
+            const QStringList elements = captures(section.section(u'\n', 0, 0), u"`(\\w+)`"_s);
+            for (const KTAttributeRow &row : KTCatalogueFormat::attributes()) {
+                const QString element = KTCatalogueFormat::elementName(row.element);
+                if (elements.contains(element))
+                    known.append(documentedRow(row, element == elements.constLast() ? QString() : element));
+            }
+            if (!elements.isEmpty())
+                documented += captures(section, u"^(\\| `\\w+`(?: \\(of `\\w+`\\))? \\|.*)$"_s);
+        }
+        QCOMPARE(documented.join(u'\n'), known.join(u'\n'));
+        QCOMPARE(known.size(), int(KTCatalogueFormat::ATTRIBUTE_COUNT));
     }
 
     void agreesOnOptions()

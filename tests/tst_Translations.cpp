@@ -1,4 +1,4 @@
-#include <KTClassifications.h>
+#include <KTClassification.h>
 #include <KTCoverType.h>
 #include <KTPageCountOrganizationListModel.h>
 

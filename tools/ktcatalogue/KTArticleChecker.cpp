@@ -1,7 +1,6 @@
 #include "KTArticleChecker.h"
 
 #include "KTArticleModel.h"
-#include "KTClassifications.h"
 #include "KTNearestWord.h"
 #include "KTVariantsText.h"
 
@@ -23,8 +22,9 @@ namespace {
 const QString PROBE_ELEMENT = QStringLiteral("probe");
 const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
 constexpr int ARTICLE_INDEX = 0;
-constexpr KTAttributeRole PAGE_COUNT_ROLES[]
-    = {KTAttributeRole::Pages, KTAttributeRole::MaxPages, KTAttributeRole::PageStep, KTAttributeRole::Pieces};
+constexpr KTAttributeId PAGE_COUNT_IDS[] = {KTAttributeId::ArticlePages, KTAttributeId::ArticleMaxPages,
+                                            KTAttributeId::ArticlePageStep, KTAttributeId::ArticlePieces};
+const QString UNITS = QStringLiteral("units");
 constexpr QChar ORDER_TXT_SEPARATOR = u';';
 // Nine digits always fit into an int.
 constexpr int SAFE_DIGITS = 9;
@@ -113,7 +113,7 @@ QString numberFault(const QString &text, KTAttributeType type)
     if (std::isinf(number))
         return QStringLiteral("is out of range");
     // A number that is finite itself may not be so in layout units.
-    if (type == KTAttributeType::Number)
+    if (type == KTAttributeType::Length)
         return ok ? QStringLiteral("is out of range") : QStringLiteral("is no number");
     return ok && number == std::floor(number) && std::abs(number) > std::numeric_limits<int>::max()
         ? QStringLiteral("is out of range")
@@ -157,12 +157,10 @@ const QStringList &priceClassFamilies()
     return myFamilies;
 }
 
-QStringList readableKeywords(const KTClassification &classification)
+/** What an unreadable text counts as, in the words of a message. */
+QString defaultOf(const KTAttributeRow &row)
 {
-    QStringList keywords;
-    for (const KTKeywordInfo &info : classification.keywords())
-        keywords += QStringList(info.written) + info.aliases;
-    return keywords;
+    return row.defaultText().replace(QLatin1Char('`'), QLatin1Char('\''));
 }
 
 /** What the classification makes of entries that are no keywords; empty when there are none. */
@@ -171,23 +169,21 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
     // A text without any entry stands for the default, as a missing one does.
     if (text.trimmed().isEmpty())
         return QString();
-    const KTClassification *const classification = KTClassification::ofAttribute(
-        KTCatalogueFormat::instance().elementName(row.element), QString::fromLatin1(row.name));
-    const QStringList unknown = classification->unknownEntries(text);
+    const KTClassification &classification = KTClassification::of(row.classification);
+    const QStringList unknown = classification.unknownEntries(text);
     if (unknown.isEmpty())
         return QString();
     const QString &word = unknown.constFirst();
-    QString message = word.isEmpty()
-        ? QStringLiteral("an empty entry in %1").arg(quoted(text))
-        : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), QString::fromLatin1(row.name));
+    QString message = word.isEmpty() ? QStringLiteral("an empty entry in %1").arg(quoted(text))
+                                     : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), row.name);
     if (unknown.size() > 1)
         message += unknown.size() == 2 ? QStringLiteral(" (nor is 1 more)")
                                        : QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
-    const QString readAs = classification->unknownReadAs();
+    const QString readAs = classification.unknownReadAs();
     message += readAs.isEmpty()
         ? QStringLiteral("; the application reads nothing from it")
         : QStringLiteral("; the application reads it as the default, '%1'").arg(readAs);
-    return message + suggestion(word, readableKeywords(*classification));
+    return message + suggestion(word, classification.readableKeywords());
 }
 
 } // namespace
@@ -265,8 +261,7 @@ KTElementKind KTArticleChecker::enterElement(int index)
     const KTElementKind parent = myKinds.at(myElement->parent);
     if (parent == KTElementKind::Unread)
         return KTElementKind::Unread;
-    const KTElementRow *const row
-        = KTCatalogueFormat::instance().element(parent, myArticle->view(myElement->name));
+    const KTElementRow *const row = KTCatalogueFormat::element(parent, myArticle->view(myElement->name));
     if (!row) {
         checkUnreadElement(parent);
         return KTElementKind::Unread;
@@ -277,7 +272,7 @@ KTElementKind KTArticleChecker::enterElement(int index)
             KTRule::RepeatedElement,
             QStringLiteral("a further '%1'; the application reads the first one only and skips this one with "
                            "everything inside")
-                .arg(QString::fromLatin1(row->name)));
+                .arg(row->name));
         return KTElementKind::Unread;
     }
     hasElement = true;
@@ -286,40 +281,34 @@ KTElementKind KTArticleChecker::enterElement(int index)
 
 void KTArticleChecker::checkUnreadElement(KTElementKind parent)
 {
-    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
     const QString name = myArticle->view(myElement->name).toString();
-    QStringList children;
-    QString place;
-    for (const QString &known : format.elementNames()) {
-        if (format.element(parent, known))
-            children.append(known);
-        else if (known == name)
-            place = QStringLiteral("; it belongs into '%1'").arg(format.parentName(known));
-    }
+    const KTElementRow *const elsewhere = KTCatalogueFormat::element(name);
+    const QString place = elsewhere
+        ? QStringLiteral("; it belongs into '%1'").arg(KTCatalogueFormat::elementName(elsewhere->parent))
+        : suggestion(name, KTCatalogueFormat::elementNames(parent));
     report(KTRule::UnknownElement,
            QStringLiteral("nothing reads %1 in '%2'; the application skips it with everything inside")
-                   .arg(quoted(name), format.elementName(parent))
-               + (place.isEmpty() ? suggestion(name, children) : place));
+                   .arg(quoted(name), KTCatalogueFormat::elementName(parent))
+               + place);
 }
 
 /** Finds the attributes of the present element and checks each by itself. */
 void KTArticleChecker::enterAttributes(KTElementKind kind)
 {
-    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
     myFound.fill(-1);
     const int end = myElement->firstAttribute + myElement->attributeCount;
     QVarLengthArray<const KTAttributeRow *, 32> rows;
     for (int i = myElement->firstAttribute; i < end; ++i) {
         const KTAttributeRow *const row
-            = format.attribute(kind, myArticle->view(myArticle->attributes().at(i).name));
+            = KTCatalogueFormat::attribute(kind, myArticle->view(myArticle->attributes().at(i).name));
         rows.append(row);
-        if (row && row->role != Role::Other)
-            myFound[static_cast<std::size_t>(row->role)] = i;
+        if (row)
+            myFound[static_cast<std::size_t>(row->id)] = i;
     }
     if (kind == KTElementKind::Article)
         beginArticle();
-    if (format.attribute(kind, format.attributeName(Role::Units)))
-        enterUnit();
+    if (const KTAttributeRow *const units = KTCatalogueFormat::attribute(kind, UNITS))
+        enterUnit(*units);
     for (int i = myElement->firstAttribute; i < end; ++i) {
         const Attribute &attribute = myArticle->attributes().at(i);
         if (const KTAttributeRow *const row = rows.at(i - myElement->firstAttribute))
@@ -339,19 +328,19 @@ void KTArticleChecker::checkAttribute(const Attribute &attribute, const KTAttrib
         checkKeywords(attribute, row);
         break;
     case KTAttributeType::Integer:
-    case KTAttributeType::Number:
+    case KTAttributeType::Length:
         checkNumber(attribute, row);
         break;
     case KTAttributeType::Boolean:
         if (!isReadable(row.type, text)) {
             report(KTRule::UnreadableBoolean,
                    QStringLiteral("%1 is neither true nor false; the application takes %2")
-                       .arg(quoted(text.toString()), QString::fromLatin1(row.replacement)),
+                       .arg(quoted(text.toString()), defaultOf(row)),
                    &attribute);
         }
         break;
     case KTAttributeType::Unit:
-        checkUnit(attribute);
+        checkUnit(attribute, row);
         break;
     case KTAttributeType::Color:
         checkColor(attribute, row);
@@ -366,11 +355,10 @@ void KTArticleChecker::checkUnknownAttribute(const Attribute &attribute, KTEleme
     if (std::any_of(std::begin(XML_PREFIXES), std::end(XML_PREFIXES),
                     [&name](QLatin1String prefix) { return name.startsWith(prefix); }))
         return;
-    const KTCatalogueFormat &format = KTCatalogueFormat::instance();
     report(KTRule::UnknownAttribute,
            QStringLiteral("nothing reads %1 of '%2'; the application behaves as if it were not there")
-                   .arg(quoted(name), format.elementName(kind))
-               + suggestion(name, format.attributeNames(kind)),
+                   .arg(quoted(name), KTCatalogueFormat::elementName(kind))
+               + suggestion(name, KTCatalogueFormat::attributeNames(kind)),
            &attribute);
 }
 
@@ -395,28 +383,27 @@ void KTArticleChecker::checkNumber(const Attribute &attribute, const KTAttribute
     if (isReadable(row.type, view) && (row.type == KTAttributeType::Integer || isLength(view)))
         return;
     const QString text = view.toString();
-    const bool isPageCount = row.element == KTElementKind::Article && *row.replacement == 0;
-    QString message = QStringLiteral("%1 %2; the application takes %3")
-                          .arg(quoted(text), numberFault(text, row.type),
-                               isPageCount ? QStringLiteral("the default: %1").arg(pageCountsText())
-                                           : QString::fromLatin1(row.replacement));
+    const bool isPageCount = std::holds_alternative<std::monostate>(row.defaultValue);
+    QString message
+        = QStringLiteral("%1 %2; the application takes %3")
+              .arg(quoted(text), numberFault(text, row.type),
+                   isPageCount ? QStringLiteral("the default: %1").arg(pageCountsText()) : defaultOf(row));
     const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
-    if (row.type == KTAttributeType::Number && withPoint != text && isReadable(row.type, withPoint))
+    if (row.type == KTAttributeType::Length && withPoint != text && isReadable(row.type, withPoint))
         message += QStringLiteral("; did you mean '%1'?").arg(withPoint);
-    report(row.role == Role::ShippingGroup ? KTRule::ShippingGroup : KTRule::UnreadableNumber, message,
-           &attribute);
+    report(row.id == KTAttributeId::ArticleShippingGroup ? KTRule::ShippingGroup : KTRule::UnreadableNumber,
+           message, &attribute);
 }
 
-void KTArticleChecker::checkUnit(const Attribute &attribute)
+void KTArticleChecker::checkUnit(const Attribute &attribute, const KTAttributeRow &row)
 {
     const QString text = myArticle->view(attribute.value).toString();
-    if (KTArticleModel::readUnit(probe({Role::Units})).hasExactlyOneBit())
+    if (KTArticleModel::readUnit(probe({row.id})).hasExactlyOneBit())
         return;
     report(KTRule::UnknownUnit,
            QStringLiteral("%1 is no unit; the application takes the numbers as layout units of 0.1 mm")
                    .arg(quoted(text))
-               + suggestion(text,
-                            readableKeywords(*KTClassification::ofClass(QStringLiteral("KTDistanceUnit")))),
+               + suggestion(text, KTClassification::of(row.classification).readableKeywords()),
            &attribute);
 }
 
@@ -427,15 +414,15 @@ void KTArticleChecker::checkColor(const Attribute &attribute, const KTAttributeR
         return;
     report(KTRule::UnknownColor,
            QStringLiteral("%1 is no colour; the application takes %2")
-                   .arg(quoted(text.toString()), QString::fromLatin1(row.replacement))
+                   .arg(quoted(text.toString()), defaultOf(row))
                + suggestion(text.toString(), QColor::colorNames()),
            &attribute);
 }
 
 /** Reads the unit of the lengths here and inside. */
-void KTArticleChecker::enterUnit()
+void KTArticleChecker::enterUnit(const KTAttributeRow &row)
 {
-    myUnit = KTArticleModel::readUnit(probe({Role::Units}));
+    myUnit = KTArticleModel::readUnit(probe({row.id}));
     // The library takes it so as well, but with a warning for each number.
     if (!myUnit.hasExactlyOneBit())
         myUnit = KTDistanceUnitLayout;
@@ -444,8 +431,8 @@ void KTArticleChecker::enterUnit()
 /** Reads what the checks of the article's attributes need to know. */
 void KTArticleChecker::beginArticle()
 {
-    const QDomElement article = probe({Role::ArtId, Role::Id, Role::ArticleClass, Role::Pages, Role::MaxPages,
-                                       Role::PageStep, Role::Pieces});
+    const QDomElement article = probe({Id::ArticleArtId, Id::ArticleId, Id::ArticleClass, Id::ArticlePages,
+                                       Id::ArticleMaxPages, Id::ArticlePageStep, Id::ArticlePieces});
     myArticleId = KTArticleId::findId(article).id();
     myPageCounts = KTArticleModel::readPageCounts(article);
     mySpinePageCounts = KTPageCountOrganization::createFromProductsXML(article);
@@ -453,23 +440,23 @@ void KTArticleChecker::beginArticle()
 
 void KTArticleChecker::checkArticle()
 {
-    const QDomElement article = probe({Role::ArtId, Role::Id});
+    const QDomElement article = probe({Id::ArticleArtId, Id::ArticleId});
     const KTArticleId artId = KTArticleId::fromArtIdAttribute(article);
     const KTArticleId id = KTArticleId::fromIdAttribute(article);
     if (!KTArticleId(myArticleId).isValid()) {
         report(
             KTRule::NoArticleId,
             QStringLiteral("neither 'art_id' nor 'id' is a positive number; no order can name the article"),
-            firstFound({Role::ArtId, Role::Id}));
+            firstOf({Id::ArticleArtId, Id::ArticleId}));
     } else if (artId.isValid() && id.isValid() && artId != id) {
         report(KTRule::ConflictingIds,
                QStringLiteral("'art_id' is %1 and 'id' is %2; the application takes %3")
                    .arg(artId.id())
                    .arg(id.id())
                    .arg(myArticleId),
-               found(Role::Id));
+               attribute(Id::ArticleId));
     }
-    if (!found(Role::ProductName)) {
+    if (!attribute(Id::ArticleProductName)) {
         report(KTRule::NoProductName,
                QStringLiteral("there is no 'productname'; the application takes '%1'")
                    .arg(KTProductType::fromMcf(article).orderTxtName()));
@@ -480,7 +467,7 @@ void KTArticleChecker::checkArticle()
 
 void KTArticleChecker::checkPriceClass()
 {
-    const QString code = text(Role::PriceClass).toString();
+    const QString code = text(Id::ArticlePriceClass).toString();
     if (KTPriceClass(code).isFree())
         return;
     const QString family = priceClassFamily(code);
@@ -489,34 +476,34 @@ void KTArticleChecker::checkPriceClass()
                QStringLiteral("%1 is no known family of price classes; the application bills %2 as it stands")
                        .arg(quoted(family), quoted(code))
                    + suggestion(family, priceClassFamilies()),
-               found(Role::PriceClass));
+               attribute(Id::ArticlePriceClass));
     }
 }
 
 void KTArticleChecker::checkPageCountAttributes()
 {
     if (KTArticleId(myArticleId).isAdventCalendarWithDoorBackPrint()) {
-        for (const Role role : PAGE_COUNT_ROLES) {
-            if (found(role)) {
+        for (const Id id : PAGE_COUNT_IDS) {
+            if (attribute(id)) {
                 report(KTRule::IgnoredAttribute,
                        QStringLiteral(
                            "the application does not read '%1' here: this calendar always has %2 pages")
-                           .arg(KTCatalogueFormat::instance().attributeName(role))
+                           .arg(KTCatalogueFormat::attributeName(id))
                            .arg(myPageCounts.minPages()),
-                       found(role));
+                       attribute(id));
             }
         }
         return;
     }
-    if (found(Role::Pieces)
-        && KTArticleClass(text(Role::ArticleClass).toString()).matches(KTArticleClassPictureBox)) {
+    if (attribute(Id::ArticlePieces)
+        && KTArticleClass(text(Id::ArticleClass).toString()).matches(KTArticleClassPictureBox)) {
         report(KTRule::IgnoredAttribute,
                QStringLiteral("the application reads the page counts of a picture box without 'pieces': %1")
                    .arg(pageCountsText()),
-               found(Role::Pieces));
+               attribute(Id::ArticlePieces));
     }
-    if (std::any_of(std::begin(PAGE_COUNT_ROLES), std::end(PAGE_COUNT_ROLES),
-                    [this](Role role) { return found(role); }))
+    if (std::any_of(std::begin(PAGE_COUNT_IDS), std::end(PAGE_COUNT_IDS),
+                    [this](Id id) { return attribute(id); }))
         checkPageCounts();
 }
 
@@ -532,19 +519,20 @@ void KTArticleChecker::checkPageCounts()
                    myPageCounts.isValid() ? QString() : QStringLiteral(", which is not valid"));
     const QString wish
         = QStringLiteral("; a wish for %1 pages becomes %2").arg(max).arg(myPageCounts.constrain(max));
-    const Attribute *const stepOrUpper = firstFound({Role::PageStep, Role::MaxPages, Role::Pages});
+    const Attribute *const stepOrUpper
+        = firstOf({Id::ArticlePageStep, Id::ArticleMaxPages, Id::ArticlePages});
     if (min < 1 || max < 1) {
         report(KTRule::PageCountRange, counts + QStringLiteral("; they begin at 1"),
-               firstFound({Role::Pages, Role::Pieces, Role::MaxPages}));
-    } else if (found(Role::Pieces) && (min == HIGHEST || max == HIGHEST)) {
+               firstOf({Id::ArticlePages, Id::ArticlePieces, Id::ArticleMaxPages}));
+    } else if (attribute(Id::ArticlePieces) && (min == HIGHEST || max == HIGHEST)) {
         report(KTRule::PageCountRange,
                QStringLiteral("'pages' times 'pieces' is too large, so the application cuts it off; ")
                    + counts,
-               found(Role::Pieces));
+               attribute(Id::ArticlePieces));
     } else if (min > max) {
-        report(KTRule::PagesInverted, counts + wish, firstFound({Role::MaxPages, Role::Pages}));
+        report(KTRule::PagesInverted, counts + wish, firstOf({Id::ArticleMaxPages, Id::ArticlePages}));
     } else if (step < 0) {
-        report(KTRule::NegativePageStep, counts + wish, found(Role::PageStep));
+        report(KTRule::NegativePageStep, counts + wish, attribute(Id::ArticlePageStep));
     } else if (step == 0 && min < max) {
         report(KTRule::NoPageStep, counts + wish, stepOrUpper);
     } else if (min < max && !myPageCounts.isConsistent()) {
@@ -558,9 +546,10 @@ void KTArticleChecker::checkPageCounts()
 
 void KTArticleChecker::checkSpine()
 {
-    const QStringView packages = text(Role::PackagesPerBlock);
+    const QStringView packages = text(Id::SpinePackagesPerBlock);
     if (packages.isEmpty() || mySpinePageCounts.pageIncrement() != 0
-        || KTXMLParser::intAttribute(probe({Role::PackagesPerBlock}), QStringLiteral("packages_per_block"), 0)
+        || KTXMLParser::intAttribute(probe({Id::SpinePackagesPerBlock}), QStringLiteral("packages_per_block"),
+                                     0)
             == 0)
         return;
     report(KTRule::SpineWithoutStep,
@@ -568,13 +557,13 @@ void KTArticleChecker::checkSpine()
                "a block has %1 packages of pages, but the article has no 'page_step'; the spine never "
                "grows")
                .arg(packages.toString()),
-           found(Role::PackagesPerBlock));
+           attribute(Id::SpinePackagesPerBlock));
 }
 
 void KTArticleChecker::checkOption()
 {
-    const QStringView key = text(Role::Key);
-    const QStringView value = text(Role::Value);
+    const QStringView key = text(Id::FormKey);
+    const QStringView value = text(Id::FormValue);
     if (key.isEmpty() || value.isEmpty()) {
         report(KTRule::IncompleteOption,
                QStringLiteral("the option has no %1; the application skips it")
@@ -593,10 +582,11 @@ void KTArticleChecker::checkOption()
     }
     if (hasSeparator(key) || hasSeparator(value))
         checkCompound(key.toString(), value.toString());
-    if (const Attribute *const preselected = found(Role::Preselected)) {
+    if (const Attribute *const preselected = attribute(Id::FormPreselected)) {
         const QStringView isPreselected = myArticle->view(preselected->value);
         if (isPreselected != QLatin1String("false")
-            && KTXMLParser::boolAttribute(probe({Role::Preselected}), QStringLiteral("preselected"), false)) {
+            && KTXMLParser::boolAttribute(probe({Id::FormPreselected}), QStringLiteral("preselected"),
+                                          false)) {
             Preselection &preselection = myPreselections[key];
             ++preselection.count;
             preselection.element = myElement;
@@ -615,7 +605,7 @@ void KTArticleChecker::checkCompound(const QString &key, const QString &value)
                QStringLiteral("%1 and %2 have different numbers of parts; the order text and the production "
                               "form leave the option out")
                    .arg(quoted(key), quoted(value)),
-               found(Role::Value));
+               attribute(Id::FormValue));
         return;
     }
     const QString mcf = option.toMCF();
@@ -639,24 +629,27 @@ void KTArticleChecker::reportLoss(const QString &form, const QString &text, cons
     report(KTRule::ReservedCharacter,
            QStringLiteral("the application writes the option as %1 in %2, which reads back as %3")
                .arg(quoted(text), form, result),
-           found(hasSeparator(this->text(Role::Key)) ? Role::Key : Role::Value));
+           attribute(hasSeparator(this->text(Id::FormKey)) ? Id::FormKey : Id::FormValue));
 }
 
 void KTArticleChecker::checkBarcode()
 {
     const KTBarcodeDefinition barcode = KTBarcodeDefinition::createFromProductsXML(
-        probe({Role::PositionX, Role::PositionY, Role::Width, Role::Height, Role::Image}), myUnit);
+        probe({Id::BarcodePositionX, Id::BarcodePositionY, Id::BarcodeWidth, Id::BarcodeHeight,
+               Id::BarcodeImage}),
+        myUnit);
     if (barcode.imageName().isEmpty()) {
         report(KTRule::BarcodeDropped,
                QStringLiteral("the barcode has an empty image name; the application skips it"),
-               found(Role::Image));
+               attribute(Id::BarcodeImage));
         return;
     }
     if (!barcode.isValid()) {
         report(
             KTRule::BarcodeDropped,
             QStringLiteral("the barcode is smaller than one layout unit (0.1 mm); the application skips it"),
-            firstFound({barcode.rect().width() < 1 ? Role::Width : Role::Height, Role::Width, Role::Height}));
+            firstOf({barcode.rect().width() < 1 ? Id::BarcodeWidth : Id::BarcodeHeight, Id::BarcodeWidth,
+                     Id::BarcodeHeight}));
         return;
     }
     // Page and image do not count: the library finds a barcode by its rectangle.
@@ -676,7 +669,7 @@ void KTArticleChecker::checkBarcode()
             QStringLiteral("%1 is no picture below 'icons/picshelf' of the resources; the application shows "
                            "no barcode")
                 .arg(quoted(barcode.imageName())),
-            found(Role::Image));
+            attribute(Id::BarcodeImage));
     }
 }
 
@@ -717,36 +710,36 @@ void KTArticleChecker::checkPreselections()
     }
 }
 
-const KTArticleChecker::Attribute *KTArticleChecker::found(Role role) const
+const KTArticleChecker::Attribute *KTArticleChecker::attribute(Id id) const
 {
-    const int place = myFound[static_cast<std::size_t>(role)];
+    const int place = myFound[static_cast<std::size_t>(id)];
     return place < 0 ? nullptr : &myArticle->attributes().at(place);
 }
 
 /** The first of the attributes that is there; null when none is. */
-const KTArticleChecker::Attribute *KTArticleChecker::firstFound(std::initializer_list<Role> roles) const
+const KTArticleChecker::Attribute *KTArticleChecker::firstOf(std::initializer_list<Id> ids) const
 {
-    for (const Role role : roles) {
-        if (const Attribute *const attribute = found(role))
-            return attribute;
+    for (const Id id : ids) {
+        if (const Attribute *const found = attribute(id))
+            return found;
     }
     return nullptr;
 }
 
-QStringView KTArticleChecker::text(Role role) const
+QStringView KTArticleChecker::text(Id id) const
 {
-    const Attribute *const attribute = found(role);
-    return attribute ? myArticle->view(attribute->value) : QStringView();
+    const Attribute *const found = attribute(id);
+    return found ? myArticle->view(found->value) : QStringView();
 }
 
 /** An element with these attributes of the present one, to ask the library with. */
-QDomElement KTArticleChecker::probe(std::initializer_list<Role> roles)
+QDomElement KTArticleChecker::probe(std::initializer_list<Id> ids)
 {
     QDomElement element = myProbes.createElement(PROBE_ELEMENT);
-    for (const Role role : roles) {
-        if (const Attribute *const attribute = found(role)) {
-            element.setAttribute(KTCatalogueFormat::instance().attributeName(role),
-                                 myArticle->view(attribute->value).toString());
+    for (const Id id : ids) {
+        if (const Attribute *const found = attribute(id)) {
+            element.setAttribute(KTCatalogueFormat::attributeName(id),
+                                 myArticle->view(found->value).toString());
         }
     }
     return element;
@@ -770,7 +763,7 @@ bool KTArticleChecker::isReadable(KTAttributeType type, QStringView text)
     switch (type) {
     case KTAttributeType::Integer:
         return asInteger(0) == asInteger(1);
-    case KTAttributeType::Number:
+    case KTAttributeType::Length:
         return !(asNumber(0.0) < asNumber(1.0));
     default:
         return asBoolean(false) == asBoolean(true);

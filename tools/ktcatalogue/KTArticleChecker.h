@@ -1,10 +1,10 @@
 #pragma once
 
 #include "KTCatalogueArticle.h"
-#include "KTCatalogueFormat.h"
 #include "KTFinding.h"
 
 #include <KTBarcodeDefinition.h>
+#include <KTCatalogueFormat.h>
 #include <KTDistanceUnit.h>
 #include <KTPageCountOrganization.h>
 
@@ -32,7 +32,7 @@ public:
 private:
     using Element = KTCatalogueArticle::Element;
     using Attribute = KTCatalogueArticle::Attribute;
-    using Role = KTAttributeRole;
+    using Id = KTAttributeId;
 
     struct Preselection
     {
@@ -52,10 +52,10 @@ private:
     void checkUnknownAttribute(const Attribute &attribute, KTElementKind kind);
     void checkKeywords(const Attribute &attribute, const KTAttributeRow &row);
     void checkNumber(const Attribute &attribute, const KTAttributeRow &row);
-    void checkUnit(const Attribute &attribute);
+    void checkUnit(const Attribute &attribute, const KTAttributeRow &row);
     void checkColor(const Attribute &attribute, const KTAttributeRow &row);
 
-    void enterUnit();
+    void enterUnit(const KTAttributeRow &row);
     void beginArticle();
     void checkArticle();
     void checkPriceClass();
@@ -69,10 +69,10 @@ private:
     bool hasImage(const KTBarcodeDefinition &barcode);
     void checkPreselections();
 
-    const Attribute *found(Role role) const;
-    const Attribute *firstFound(std::initializer_list<Role> roles) const;
-    QStringView text(Role role) const;
-    QDomElement probe(std::initializer_list<Role> roles);
+    const Attribute *attribute(Id id) const;
+    const Attribute *firstOf(std::initializer_list<Id> ids) const;
+    QStringView text(Id id) const;
+    QDomElement probe(std::initializer_list<Id> ids);
     bool isReadable(KTAttributeType type, QStringView text);
     bool isLength(QStringView number) const;
     QString pageCountsText() const;
@@ -83,7 +83,7 @@ private:
     QVector<KTFinding> myFindings;
     QVector<KTElementKind> myKinds;
     /** The places of the attributes of the present element, -1 for those that are missing. */
-    std::array<int, static_cast<std::size_t>(Role::Other)> myFound {};
+    std::array<int, KTCatalogueFormat::ATTRIBUTE_COUNT> myFound {};
     QDomDocument myProbes;
 
     int myArticleId = 0;
@@ -92,7 +92,7 @@ private:
     KTPageCountOrganization mySpinePageCounts;
     /** Of the lengths of the present element and of those inside. */
     KTDistanceUnit myUnit;
-    std::array<bool, static_cast<std::size_t>(KTElementKind::Form) + 1> myHasElement {};
+    std::array<bool, static_cast<std::size_t>(KTElementKind::COUNT)> myHasElement {};
     QHash<QPair<QStringView, QStringView>, int> myOptionLines;
     QHash<QStringView, Preselection> myPreselections;
     QHash<KTBarcodeDefinition, int> myBarcodeLines;

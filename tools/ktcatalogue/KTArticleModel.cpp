@@ -72,14 +72,13 @@ KTArticleModel::KTArticleModel(const QDomElement &article)
     , spine(KTSpineConfig::createFromProductsXML(article))
     , hasSpine(!article.firstChildElement(COMPOSITION_TAG).firstChildElement(SPINE_TAG).isNull())
 {
-    const QString element = article.tagName();
-    for (const KTClassification &classification : KTClassification::all()) {
-        if (classification.element() != element)
+    for (const KTAttributeRow &row : KTCatalogueFormat::attributes()) {
+        if (row.element != KTElementKind::Article || row.type != KTAttributeType::Keywords)
             continue;
         // A missing attribute is null, one without text is only empty.
-        const QString value = text(article, classification.attribute());
+        const QString value = text(article, row.name.toString());
         if (!value.isNull())
-            classifications.append({&classification, value, classification.decode(value)});
+            classifications.append({row.id, value, KTClassification::of(row.classification).decode(value)});
     }
     for (QDomElement page = article.firstChildElement(PAGE_TAG); !page.isNull();
          page = page.nextSiblingElement(PAGE_TAG)) {

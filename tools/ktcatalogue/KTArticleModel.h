@@ -1,9 +1,8 @@
 #pragma once
 
-#include "KTClassifications.h"
-
 #include <KTArticleId.h>
 #include <KTBarcodeDefinitionList.h>
+#include <KTCatalogueFormat.h>
 #include <KTConfiguredArticleVariantList.h>
 #include <KTDistanceUnit.h>
 #include <KTPageContext.h>
@@ -31,7 +30,7 @@ struct KTArticleModel
     /** What the library reads from a classification attribute. */
     struct Classified
     {
-        const KTClassification *classification;
+        KTAttributeId attribute;
         QString text;
         qint64 value;
     };

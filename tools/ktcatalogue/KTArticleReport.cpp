@@ -61,8 +61,9 @@ QStringList classificationLines(const KTArticleModel &article)
 {
     QStringList lines;
     for (const KTArticleModel::Classified &entry : article.classifications) {
-        const KTClassification &classification = *entry.classification;
-        lines.append(line(classification.attribute(),
+        const KTAttributeRow &row = KTCatalogueFormat::attribute(entry.attribute);
+        const KTClassification &classification = KTClassification::of(row.classification);
+        lines.append(line(row.name.toString(),
                           QStringLiteral("%1  %2").arg(classification.written(entry.value),
                                                        classification.displayName(entry.value))));
         for (const QString &keyword : classification.unknownEntries(entry.text)) {
@@ -220,7 +221,8 @@ QJsonObject classificationsJson(const KTArticleModel &article)
 {
     QJsonObject object;
     for (const KTArticleModel::Classified &entry : article.classifications) {
-        const KTClassification &classification = *entry.classification;
+        const KTAttributeRow &row = KTCatalogueFormat::attribute(entry.attribute);
+        const KTClassification &classification = KTClassification::of(row.classification);
         QJsonObject json {
             {QStringLiteral("keyword"), classification.written(entry.value)    },
             {QStringLiteral("name"),    classification.displayName(entry.value)}
@@ -230,7 +232,7 @@ QJsonObject classificationsJson(const KTArticleModel &article)
             json.insert(QStringLiteral("unknown"), QJsonArray::fromStringList(unknown));
             json.insert(QStringLiteral("readAs"), classification.unknownReadAs());
         }
-        object.insert(classification.attribute(), json);
+        object.insert(row.name, json);
     }
     return object;
 }

@@ -1,8 +1,9 @@
 #include "KTKeywordsCommand.h"
 
-#include "KTClassifications.h"
 #include "KTCommandLine.h"
 #include "KTNearestWord.h"
+
+#include <KTCatalogueFormat.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,9 +26,17 @@ QString hex(qint64 value)
 /** Where a catalogue has the keywords; empty for a classification that no attribute carries. */
 QString placeOf(const KTClassification &row, const QString &quote)
 {
-    if (row.attribute().isEmpty())
-        return QString();
-    return QStringLiteral("%3%1%3 of %3%2%3").arg(row.attribute(), row.element(), quote);
+    const KTAttributeRow *const attribute = KTCatalogueFormat::attribute(row.id());
+    return attribute ? QStringLiteral("%3%1%3 of %3%2%3")
+                           .arg(attribute->name, KTCatalogueFormat::elementName(attribute->element), quote)
+                     : QString();
+}
+
+/** True for the name of the class or of the attribute. */
+bool isNamed(const KTClassification &row, const QString &name)
+{
+    const KTAttributeRow *const attribute = KTCatalogueFormat::attribute(row.id());
+    return name == row.className() || (attribute && name == attribute->name);
 }
 
 /** What the text is read as, in words. */
@@ -71,10 +80,11 @@ QString aligned(const QVector<QStringList> &lines)
     return text;
 }
 
-QString text(const QVector<KTClassification> &rows)
+QString text(const QVector<const KTClassification *> &rows)
 {
     QStringList texts;
-    for (const KTClassification &row : rows) {
+    for (const KTClassification *const classification : rows) {
+        const KTClassification &row = *classification;
         QVector<QStringList> lines {
             {QStringLiteral("keyword"), QStringLiteral("value"), QStringLiteral("name"),
              QStringLiteral("also read")}
@@ -99,10 +109,11 @@ QJsonObject readingJson(const KTClassification &row, const QString &text)
     };
 }
 
-QString json(const QVector<KTClassification> &rows)
+QString json(const QVector<const KTClassification *> &rows)
 {
     QJsonArray tables;
-    for (const KTClassification &row : rows) {
+    for (const KTClassification *const classification : rows) {
+        const KTClassification &row = *classification;
         QJsonArray keywords;
         for (const KTKeywordInfo &keyword : row.keywords())
             keywords.append(QJsonObject {
@@ -113,10 +124,13 @@ QString json(const QVector<KTClassification> &rows)
             });
         const QJsonObject unknownWord = readingJson(row, UNKNOWN_WORD);
         const QJsonObject emptyText = readingJson(row, QString());
+        const KTAttributeRow *const attribute = KTCatalogueFormat::attribute(row.id());
+        const QString element = attribute ? KTCatalogueFormat::elementName(attribute->element) : QString();
+        const QString attributeName = attribute ? attribute->name.toString() : QString();
         tables.append(QJsonObject {
             {QStringLiteral("class"),       row.className()},
-            {QStringLiteral("element"),     row.element()  },
-            {QStringLiteral("attribute"),   row.attribute()},
+            {QStringLiteral("element"),     element        },
+            {QStringLiteral("attribute"),   attributeName  },
             {QStringLiteral("keywords"),    keywords       },
             {QStringLiteral("unknownWord"), unknownWord    },
             {QStringLiteral("emptyText"),   emptyText      }
@@ -130,7 +144,7 @@ QString json(const QVector<KTClassification> &rows)
 }
 
 /** A page of its own: docs/keywords.md. */
-QString markdown(const QVector<KTClassification> &rows)
+QString markdown(const QVector<const KTClassification *> &rows)
 {
     const QString tick = QStringLiteral("`");
     const auto ticked = [&tick](const QStringList &words) {
@@ -141,7 +155,8 @@ QString markdown(const QVector<KTClassification> &rows)
         "What the classifications read and write, as `ktcatalogue keywords --format markdown` prints it. "
         "Attributes hold one keyword or several, separated by `,`; letter case and blanks around them do not "
         "matter. Words in the last column are read, but never written.\n");
-    for (const KTClassification &row : rows) {
+    for (const KTClassification *const classification : rows) {
+        const KTClassification &row = *classification;
         page += QStringLiteral("\n## %1\n\n").arg(row.className());
         const QString place = placeOf(row, tick);
         page += (place.isEmpty() ? QString() : QStringLiteral("The attribute %1. ").arg(place))
@@ -158,7 +173,7 @@ QString markdown(const QVector<KTClassification> &rows)
 struct FormatRow
 {
     const char *name;
-    QString (*format)(const QVector<KTClassification> &rows);
+    QString (*format)(const QVector<const KTClassification *> &rows);
 };
 
 constexpr FormatRow FORMATS[] = {
@@ -203,13 +218,13 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
     const QStringList operands = commandLine.parser().positionalArguments().mid(1);
     if (operands.size() > 1)
         return KTCommandLine::failUsage(QStringLiteral("'keywords' takes one class"));
-    QVector<KTClassification> rows = KTClassification::all();
-    if (!operands.isEmpty()) {
-        const KTClassification *const row = KTClassification::ofName(operands.constFirst());
-        if (!row)
-            return failClass(operands.constFirst());
-        rows = {*row};
+    QVector<const KTClassification *> rows;
+    for (const KTClassification &row : KTClassification::all()) {
+        if (operands.isEmpty() || isNamed(row, operands.constFirst()))
+            rows.append(&row);
     }
+    if (rows.isEmpty())
+        return failClass(operands.constFirst());
     const std::optional<QString> format = commandLine.format();
     if (!format)
         return KTExitUsage;
