@@ -84,6 +84,14 @@ private Q_SLOTS:
         }
     }
 
+    void tellsUnknownEntries()
+    {
+        const auto unknown
+            = [](const QString &text) { return sampleTable().unknownEntries(text).join(u'/'); };
+        KTTest::check(unknown, {"red, Gren ,,WARM,\u00c4K,x y -> Gren//x y", " Red -> "});
+        QCOMPARE(sampleTable().unknownEntries(QString()), QStringList {QString()});
+    }
+
     void allocatesOnlyForNewTexts()
     {
         if (!KTAllocationCounter::isAvailable())

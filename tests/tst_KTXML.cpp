@@ -12,7 +12,7 @@ private Q_SLOTS:
     void readsNumbers()
     {
         // As an integer (by default 7, from the element and its attributes), a real number (0.5), a flag
-        // (true).
+        // (true), and whether it is any of them.
         const auto read = [](const QString &text) {
             QDomElement element = KTTest::element(u"<e/>"_s);
             const QString name = u"a"_s;
@@ -20,14 +20,16 @@ private Q_SLOTS:
             const int integer = KTXMLParser::intAttribute(element, name, 7);
             const bool areSame = integer == KTXMLParser::intAttribute(element.attributes(), name, 7)
                 && KTXMLParser::attribute(element, name, u"default"_s, true) == text;
+            const bool isReadable = KTXMLParser::parseInt(text) || KTXMLParser::parseDouble(text)
+                || KTXMLParser::parseBool(text);
             return KTTest::text(integer, KTXMLParser::doubleAttribute(element, name, 0.5),
-                                KTXMLParser::boolAttribute(element, name, true), areSame);
+                                KTXMLParser::boolAttribute(element, name, true), areSame, isReadable);
         };
         KTTest::check(read,
-                      {" 17  -> 17|17|+|+", "-1.5e1 -> 7|-15|+|+", "2147483648 -> 7|2147483648|+|+",
-                       "1e999 -> 7|0.5|+|+", "inf -> 7|0.5|+|+", "nan -> 7|0.5|+|+", "0x10 -> 7|0.5|+|+",
-                       "1,000 -> 7|0.5|+|+", " -> 7|0.5|+|+", "0 -> 0|0|-|+", " False\n -> 7|0.5|-|+",
-                       "no -> 7|0.5|+|+"});
+                      {" 17  -> 17|17|+|+|+", "-1.5e1 -> 7|-15|+|+|+", "2147483648 -> 7|2147483648|+|+|+",
+                       "1e999 -> 7|0.5|+|+|-", "inf -> 7|0.5|+|+|-", "nan -> 7|0.5|+|+|-",
+                       "0x10 -> 7|0.5|+|+|-", "1,000 -> 7|0.5|+|+|-", " -> 7|0.5|+|+|-", "0 -> 0|0|-|+|+",
+                       " False\n -> 7|0.5|-|+|+", "no -> 7|0.5|+|+|-"});
     }
 
     void readsMissingAttributeAsDefault()

@@ -77,13 +77,7 @@ QString written(const CLASS &value)
 template <typename CLASS>
 QStringList unknownEntriesOf(const QString &text)
 {
-    const auto &known = CLASS().enumToStringTable()->keywordToValue;
-    QStringList unknown;
-    for (const QString &part : text.split(QLatin1Char(','))) {
-        if (!known.contains(part.trimmed().toLower()))
-            unknown.append(part.trimmed());
-    }
-    return unknown;
+    return CLASS().unknownEntries(text);
 }
 
 template <typename CLASS>

@@ -56,7 +56,7 @@ public:
     /** The keyword that the library writes for the value; the bits' keywords for a union without one. */
     QString written(qint64 value) const { return myWritten(value); }
     QString displayName(qint64 value) const { return myDisplayName(value); }
-    /** The entries of the text that are no keywords, without blanks around them. */
+    /** The entries of the text that are no keywords, see KTEnumToStringTable. */
     QStringList unknownEntries(const QString &text) const { return myUnknownEntries(text); }
     /** What is written for the value that an unknown entry becomes; empty for nothing at all. */
     QString unknownReadAs() const { return myUnknownReadAs(); }

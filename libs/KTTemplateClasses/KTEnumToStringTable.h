@@ -48,6 +48,8 @@ public:
      * included, contributes defaultValue, silently; so an empty text is defaultValue.
      */
     ENUM decodeCSV(const QString &text) const;
+    /** The entries of such a list that are no keywords, as they are written, but without blanks around. */
+    QStringList unknownEntries(const QString &text) const;
 
     /** The written keyword of exactly this value, a union included, or defaultKeyword. */
     QString encode(ENUM value) const;
@@ -188,6 +190,18 @@ ENUM KTEnumToStringTable<ENUM>::decodeCSV(const QString &text) const
             return static_cast<ENUM>(values);
         start = end + 1;
     }
+}
+
+template <typename ENUM>
+QStringList KTEnumToStringTable<ENUM>::unknownEntries(const QString &text) const
+{
+    QStringList unknown;
+    for (const QString &part : text.split(KOMMA)) {
+        const QString entry = part.trimmed();
+        if (!keywordToValue.contains(entry.toLower()))
+            unknown.append(entry);
+    }
+    return unknown;
 }
 
 template <typename ENUM>

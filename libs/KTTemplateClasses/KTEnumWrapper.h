@@ -89,6 +89,10 @@ public:
     {
         return enumToStringTable()->decodeOneElement(text, true);
     }
+    QStringList unknownEntries(const QString &text) const
+    {
+        return enumToStringTable()->unknownEntries(text);
+    }
     QString encode() const { return enumToStringTable()->encode(myValue); }
     QString encodeCSV() const { return enumToStringTable()->encodeCSV(myValue); }
     QStringList encodeBits() const { return enumToStringTable()->encodeAsList(myValue); }

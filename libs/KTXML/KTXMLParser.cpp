@@ -7,16 +7,29 @@
 
 #include <cmath>
 
-namespace {
-
-int toInt(const QString &text, int defaultValue)
+std::optional<int> KTXMLParser::parseInt(const QString &text)
 {
     bool ok = false;
     const int number = text.toInt(&ok);
-    return ok ? number : defaultValue;
+    return ok ? std::make_optional(number) : std::nullopt;
 }
 
-} // namespace
+std::optional<double> KTXMLParser::parseDouble(const QString &text)
+{
+    bool ok = false;
+    const double number = text.toDouble(&ok);
+    return ok && std::isfinite(number) ? std::make_optional(number) : std::nullopt;
+}
+
+std::optional<bool> KTXMLParser::parseBool(const QString &text)
+{
+    const QString word = text.trimmed().toLower();
+    if (word == QLatin1String("true") || word == QLatin1String("1"))
+        return true;
+    if (word == QLatin1String("false") || word == QLatin1String("0"))
+        return false;
+    return std::nullopt;
+}
 
 QString KTXMLParser::attribute(const QDomElement &element, const QString &name, const QString &defaultValue,
                                bool)
@@ -26,29 +39,22 @@ QString KTXMLParser::attribute(const QDomElement &element, const QString &name, 
 
 int KTXMLParser::intAttribute(const QDomElement &element, const QString &name, int defaultValue)
 {
-    return toInt(element.attribute(name), defaultValue);
+    return parseInt(element.attribute(name)).value_or(defaultValue);
 }
 
 int KTXMLParser::intAttribute(const QDomNamedNodeMap &attributes, const QString &name, int defaultValue)
 {
-    return toInt(attributes.namedItem(name).nodeValue(), defaultValue);
+    return parseInt(attributes.namedItem(name).nodeValue()).value_or(defaultValue);
 }
 
 bool KTXMLParser::boolAttribute(const QDomElement &element, const QString &name, bool defaultValue)
 {
-    const QString text = element.attribute(name).trimmed().toLower();
-    if (text == QLatin1String("true") || text == QLatin1String("1"))
-        return true;
-    if (text == QLatin1String("false") || text == QLatin1String("0"))
-        return false;
-    return defaultValue;
+    return parseBool(element.attribute(name)).value_or(defaultValue);
 }
 
 double KTXMLParser::doubleAttribute(const QDomElement &element, const QString &name, double defaultValue)
 {
-    bool ok = false;
-    const double number = element.attribute(name).toDouble(&ok);
-    return ok && std::isfinite(number) ? number : defaultValue;
+    return parseDouble(element.attribute(name)).value_or(defaultValue);
 }
 
 KTDistance KTXMLParser::readDistance(const QDomElement &element, const QString &name, double defaultValue,

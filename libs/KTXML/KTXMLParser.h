@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class QDomElement;
 class QDomNamedNodeMap;
 
@@ -18,14 +20,20 @@ class QDomNamedNodeMap;
 class KTXML_EXPORT KTXMLParser
 {
 public:
+    /** @name The values of texts; none of an unreadable one. Blanks around them are ignored. */
+    /** @{ */
+    [[nodiscard]] static std::optional<int> parseInt(const QString &text);
+    [[nodiscard]] static std::optional<double> parseDouble(const QString &text);
+    /** "true" and "1", "false" and "0", in any letter case. */
+    [[nodiscard]] static std::optional<bool> parseBool(const QString &text);
+    /** @} */
+
     /** The text as it stands; an attribute without text is not missing. The last argument has no effect. */
     [[nodiscard]] static QString attribute(const QDomElement &element, const QString &name,
                                            const QString &defaultValue, bool reserved = true);
     [[nodiscard]] static int intAttribute(const QDomElement &element, const QString &name, int defaultValue);
     [[nodiscard]] static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name,
                                           int defaultValue);
-    /** "true" and "1", "false" and "0", in any letter case; blanks around them are ignored, as with numbers.
-     */
     [[nodiscard]] static bool boolAttribute(const QDomElement &element, const QString &name,
                                             bool defaultValue);
     [[nodiscard]] static double doubleAttribute(const QDomElement &element, const QString &name,

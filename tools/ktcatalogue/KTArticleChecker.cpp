@@ -65,6 +65,19 @@ bool isPlainBoolean(QStringView text)
         || text == QLatin1String("0");
 }
 
+/** True for a text that the library does not replace by a default. */
+bool isReadable(KTAttributeType type, QStringView text)
+{
+    switch (type) {
+    case KTAttributeType::Integer:
+        return isPlainInteger(text) || KTXMLParser::parseInt(raw(text));
+    case KTAttributeType::Length:
+        return isPlainNumber(text) || KTXMLParser::parseDouble(raw(text));
+    default:
+        return isPlainBoolean(text) || KTXMLParser::parseBool(raw(text));
+    }
+}
+
 /** True for the characters that can separate or fill in anything in one of the forms of an option. */
 bool isSeparator(QChar character)
 {
@@ -547,10 +560,7 @@ void KTArticleChecker::checkPageCounts()
 void KTArticleChecker::checkSpine()
 {
     const QStringView packages = text(Id::SpinePackagesPerBlock);
-    if (packages.isEmpty() || mySpinePageCounts.pageIncrement() != 0
-        || KTXMLParser::intAttribute(probe({Id::SpinePackagesPerBlock}), QStringLiteral("packages_per_block"),
-                                     0)
-            == 0)
+    if (mySpinePageCounts.pageIncrement() != 0 || KTXMLParser::parseInt(raw(packages)).value_or(0) == 0)
         return;
     report(KTRule::SpineWithoutStep,
            QStringLiteral(
@@ -582,16 +592,13 @@ void KTArticleChecker::checkOption()
     }
     if (hasSeparator(key) || hasSeparator(value))
         checkCompound(key.toString(), value.toString());
-    if (const Attribute *const preselected = attribute(Id::FormPreselected)) {
-        const QStringView isPreselected = myArticle->view(preselected->value);
-        if (isPreselected != QLatin1String("false")
-            && KTXMLParser::boolAttribute(probe({Id::FormPreselected}), QStringLiteral("preselected"),
-                                          false)) {
-            Preselection &preselection = myPreselections[key];
-            ++preselection.count;
-            preselection.element = myElement;
-            preselection.attribute = preselected;
-        }
+    const QStringView isPreselected = text(Id::FormPreselected);
+    if (isPreselected != QLatin1String("false")
+        && KTXMLParser::parseBool(raw(isPreselected)).value_or(false)) {
+        Preselection &preselection = myPreselections[key];
+        ++preselection.count;
+        preselection.element = myElement;
+        preselection.attribute = attribute(Id::FormPreselected);
     }
 }
 
@@ -743,31 +750,6 @@ QDomElement KTArticleChecker::probe(std::initializer_list<Id> ids)
         }
     }
     return element;
-}
-
-/** Unreadable is a text for which the library takes whatever default it is given. */
-bool KTArticleChecker::isReadable(KTAttributeType type, QStringView text)
-{
-    if (type == KTAttributeType::Boolean       ? isPlainBoolean(text)
-            : type == KTAttributeType::Integer ? isPlainInteger(text)
-                                               : isPlainNumber(text))
-        return true;
-    QDomElement element = myProbes.createElement(PROBE_ELEMENT);
-    element.setAttribute(PROBE_ELEMENT, text.toString());
-    const auto asInteger
-        = [&element](int other) { return KTXMLParser::intAttribute(element, PROBE_ELEMENT, other); };
-    const auto asNumber
-        = [&element](double other) { return KTXMLParser::doubleAttribute(element, PROBE_ELEMENT, other); };
-    const auto asBoolean
-        = [&element](bool other) { return KTXMLParser::boolAttribute(element, PROBE_ELEMENT, other); };
-    switch (type) {
-    case KTAttributeType::Integer:
-        return asInteger(0) == asInteger(1);
-    case KTAttributeType::Length:
-        return !(asNumber(0.0) < asNumber(1.0));
-    default:
-        return asBoolean(false) == asBoolean(true);
-    }
 }
 
 /** True for a readable number that is finite as a length, too. */

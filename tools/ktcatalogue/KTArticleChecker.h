@@ -73,7 +73,6 @@ private:
     const Attribute *firstOf(std::initializer_list<Id> ids) const;
     QStringView text(Id id) const;
     QDomElement probe(std::initializer_list<Id> ids);
-    bool isReadable(KTAttributeType type, QStringView text);
     bool isLength(QStringView number) const;
     QString pageCountsText() const;
     void report(KTRule rule, const QString &message, const Attribute *attribute = nullptr);
