@@ -2,6 +2,7 @@
 
 #include <KTStringLiteral.h>
 #include <KTXMLBuilder.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDataStream>
@@ -51,6 +52,11 @@ KTArticleId::KTArticleId(const QDomElement &element, const QString &attributeNam
 {
 }
 
+KTArticleId::KTArticleId(const KTXMLElement &element, const QString &attributeName)
+    : myId(KTXMLParser::intAttribute(element, attributeName, 0))
+{
+}
+
 KTArticleId KTArticleId::fromIdAttribute(const QDomElement &element)
 {
     return KTArticleId(element, ARTICLE_ID_KEY);
@@ -83,8 +89,13 @@ KTArticleId KTArticleId::fromArticleIdAttribute(const QDomNamedNodeMap &attribut
 
 KTArticleId KTArticleId::findId(const QDomElement &element)
 {
-    const KTArticleId articleId = fromArtIdAttribute(element);
-    return articleId.isValid() ? articleId : fromIdAttribute(element);
+    return findId(KTXMLElement(element));
+}
+
+KTArticleId KTArticleId::findId(const KTXMLElement &element)
+{
+    const KTArticleId articleId(element, ARTICLE_ART_ID_KEY);
+    return articleId.isValid() ? articleId : KTArticleId(element, ARTICLE_ID_KEY);
 }
 
 QString KTArticleId::defaultKey()

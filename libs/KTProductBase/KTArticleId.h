@@ -8,6 +8,7 @@
 #include <QString>
 #include <QtGlobal>
 
+class KTXMLElement;
 class QDataStream;
 class QDebug;
 class QDomElement;
@@ -34,6 +35,7 @@ public:
     KTArticleId(const QJsonObject &object, const QString &key);
     KTArticleId(const QDomNamedNodeMap &attributes, const QString &attributeName);
     KTArticleId(const QDomElement &element, const QString &attributeName);
+    KTArticleId(const KTXMLElement &element, const QString &attributeName);
 
     [[nodiscard]] static KTArticleId fromIdAttribute(const QDomElement &element);
     [[nodiscard]] static KTArticleId fromIdAttribute(const QDomNamedNodeMap &attributes);
@@ -43,6 +45,7 @@ public:
     [[nodiscard]] static KTArticleId fromArticleIdAttribute(const QDomNamedNodeMap &attributes);
     /** "art_id" where it is positive, else "id". */
     [[nodiscard]] static KTArticleId findId(const QDomElement &element);
+    [[nodiscard]] static KTArticleId findId(const KTXMLElement &element);
 
     /** "id", the attribute and member name used where none is given. */
     static QString defaultKey();

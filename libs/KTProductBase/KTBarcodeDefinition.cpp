@@ -4,6 +4,7 @@
 #include <KTDirectoryConfig.h>
 #include <KTDistanceUnit.h>
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QByteArray>
@@ -34,7 +35,7 @@ constexpr double DEFAULT_LENGTH = 1.0;
 // A small file can claim any size, and the memory is taken before the first pixel is read.
 constexpr qint64 MOST_PIXELS = 64000000;
 
-double layoutUnits(const QDomElement &element, const QString &name, const KTDistanceUnit &unit)
+double layoutUnits(const KTXMLElement &element, const QString &name, const KTDistanceUnit &unit)
 {
     return KTXMLParser::readDistance(element, name, DEFAULT_LENGTH, unit).value(KTDistanceUnitLayout);
 }
@@ -141,6 +142,12 @@ KTBarcodeDefinition::~KTBarcodeDefinition() = default;
 KTBarcodeDefinition KTBarcodeDefinition::createFromProductsXML(const QDomElement &element,
                                                                const KTDistanceUnit &unit)
 {
+    return createFromProductsXML(KTXMLElement(element), unit);
+}
+
+KTBarcodeDefinition KTBarcodeDefinition::createFromProductsXML(const KTXMLElement &element,
+                                                               const KTDistanceUnit &unit)
+{
     const double x = layoutUnits(element, POSITION_X_ATTRIBUTE, unit);
     const double y = layoutUnits(element, POSITION_Y_ATTRIBUTE, unit);
     const double width = layoutUnits(element, WIDTH_ATTRIBUTE, unit);
@@ -149,7 +156,7 @@ KTBarcodeDefinition KTBarcodeDefinition::createFromProductsXML(const QDomElement
     // The position is the lower edge; only the difference is truncated.
     const Side vertical = side(truncated(y - height), truncated(height));
     const QRect rect(QPoint(horizontal.first, vertical.first), QPoint(horizontal.last, vertical.last));
-    return KTBarcodeDefinition(rect, KTXMLParser::intAttribute(element.attributes(), PAGE_NR_ATTRIBUTE, 0),
+    return KTBarcodeDefinition(rect, KTXMLParser::intAttribute(element, PAGE_NR_ATTRIBUTE, 0),
                                KTXMLParser::attribute(element, IMAGE_ATTRIBUTE, DEFAULT_IMAGE_NAME, true));
 }
 

@@ -9,6 +9,7 @@
 #include <QRect>
 #include <QString>
 
+class KTXMLElement;
 class QDebug;
 class QDomElement;
 
@@ -33,6 +34,8 @@ public:
      * warning for each number.
      */
     [[nodiscard]] static KTBarcodeDefinition createFromProductsXML(const QDomElement &element,
+                                                                   const KTDistanceUnit &unit);
+    [[nodiscard]] static KTBarcodeDefinition createFromProductsXML(const KTXMLElement &element,
                                                                    const KTDistanceUnit &unit);
 
     QRect rect() const { return myRect; }

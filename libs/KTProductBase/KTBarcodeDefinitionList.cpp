@@ -1,6 +1,7 @@
 #include "KTBarcodeDefinitionList.h"
 
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 
 #include <QDomElement>
 #include <QHash>
@@ -165,8 +166,14 @@ KTBarcodeDefinitionList::~KTBarcodeDefinitionList() = default;
 KTBarcodeDefinitionList KTBarcodeDefinitionList::createFromProductsXML(const QDomElement &element,
                                                                        const KTDistanceUnit &unit)
 {
+    return createFromProductsXML(KTXMLElement(element), unit);
+}
+
+KTBarcodeDefinitionList KTBarcodeDefinitionList::createFromProductsXML(const KTXMLElement &element,
+                                                                       const KTDistanceUnit &unit)
+{
     KTBarcodeDefinitionList list;
-    for (QDomElement child = element.firstChildElement(BARCODE_TAG); !child.isNull();
+    for (KTXMLElement child = element.firstChildElement(BARCODE_TAG); !child.isNull();
          child = child.nextSiblingElement(BARCODE_TAG)) {
         list.append(createFromXTCI(child, unit));
     }
@@ -176,8 +183,14 @@ KTBarcodeDefinitionList KTBarcodeDefinitionList::createFromProductsXML(const QDo
 KTBarcodeDefinitionList KTBarcodeDefinitionList::createFromXTCI(const QDomElement &element,
                                                                 const KTDistanceUnit &unit)
 {
+    return createFromXTCI(KTXMLElement(element), unit);
+}
+
+KTBarcodeDefinitionList KTBarcodeDefinitionList::createFromXTCI(const KTXMLElement &element,
+                                                                const KTDistanceUnit &unit)
+{
     KTBarcodeDefinitionList list;
-    if (element.nodeName() == BARCODE_TAG) {
+    if (element.tagName() == BARCODE_TAG) {
         const KTBarcodeDefinition definition = KTBarcodeDefinition::createFromProductsXML(element, unit);
         if (definition.isValid())
             list.append(definition);

@@ -31,8 +31,12 @@ public:
     /** Reads each child "barcode", see KTBarcodeDefinition; invalid ones are left out. */
     [[nodiscard]] static KTBarcodeDefinitionList createFromProductsXML(const QDomElement &element,
                                                                        const KTDistanceUnit &unit);
+    [[nodiscard]] static KTBarcodeDefinitionList createFromProductsXML(const KTXMLElement &element,
+                                                                       const KTDistanceUnit &unit);
     /** Reads the element itself, if it is a "barcode" and valid. */
     [[nodiscard]] static KTBarcodeDefinitionList createFromXTCI(const QDomElement &element,
+                                                                const KTDistanceUnit &unit);
+    [[nodiscard]] static KTBarcodeDefinitionList createFromXTCI(const KTXMLElement &element,
                                                                 const KTDistanceUnit &unit);
 
     /** The first entry with exactly this rectangle, an invalid one when there is none. */

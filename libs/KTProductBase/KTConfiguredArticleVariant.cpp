@@ -3,6 +3,7 @@
 #include <KTNamedColor.h>
 #include <KTSpotColor.h>
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDebug>
@@ -23,7 +24,7 @@ constexpr KTStringLiteral NOT_ACCOUNTABLE_ATTRIBUTE = "not_accountable";
 
 constexpr QChar KEY_VALUE_SEPARATOR = u':';
 
-QString text(const QDomElement &element, const QString &name)
+QString text(const KTXMLElement &element, const QString &name)
 {
     return KTXMLParser::attribute(element, name, QString(), true);
 }
@@ -60,6 +61,11 @@ KTConfiguredArticleVariant::KTConfiguredArticleVariant()
 }
 
 KTConfiguredArticleVariant::KTConfiguredArticleVariant(const QDomElement &element)
+    : KTConfiguredArticleVariant(KTXMLElement(element))
+{
+}
+
+KTConfiguredArticleVariant::KTConfiguredArticleVariant(const KTXMLElement &element)
     : KTConfiguredArticleVariant()
 {
     KTConfiguredArticleVariantImpl *const impl = myImpl.data();

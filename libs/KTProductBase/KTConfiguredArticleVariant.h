@@ -8,6 +8,8 @@
 #include <QSharedDataPointer>
 
 class KTConfiguredArticleVariantImpl;
+class KTXMLElement;
+class QDomElement;
 
 /**
  * One option as the catalogue offers it: key and value for the order, and what the dialogs show for them.
@@ -25,6 +27,7 @@ public:
      * is missing or unknown (see QColor::setNamedColor()) is invalid.
      */
     KTConfiguredArticleVariant(const QDomElement &element);
+    KTConfiguredArticleVariant(const KTXMLElement &element);
     KTConfiguredArticleVariant(const QString &key, const QString &value);
     /** From a text like "alcolor:black"; without exactly one ":" key and value stay empty. */
     KTConfiguredArticleVariant(const QString &keywordString);

@@ -3,6 +3,7 @@
 #include "KTVariantPairs.h"
 
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 
 #include <QDebug>
 #include <QDomElement>
@@ -32,6 +33,11 @@ bool matches(const KTConfiguredArticleVariant &variant, const KTArticleVariants 
 } // namespace
 
 KTConfiguredArticleVariantList::KTConfiguredArticleVariantList(const QDomElement &element)
+{
+    readVariants(element);
+}
+
+KTConfiguredArticleVariantList::KTConfiguredArticleVariantList(const KTXMLElement &element)
 {
     readVariants(element);
 }
@@ -73,9 +79,14 @@ KTConfiguredArticleVariantList::createFromReduced(const KTConfiguredArticleVaria
 
 void KTConfiguredArticleVariantList::readVariants(const QDomElement &element)
 {
+    readVariants(KTXMLElement(element));
+}
+
+void KTConfiguredArticleVariantList::readVariants(const KTXMLElement &element)
+{
     clear();
-    const QDomElement forms = element.firstChildElement(FORMS_ELEMENT);
-    for (QDomElement form = forms.firstChildElement(FORM_ELEMENT); !form.isNull();
+    const KTXMLElement forms = element.firstChildElement(FORMS_ELEMENT);
+    for (KTXMLElement form = forms.firstChildElement(FORM_ELEMENT); !form.isNull();
          form = form.nextSiblingElement(FORM_ELEMENT)) {
         appendIfValid(KTConfiguredArticleVariant(form));
     }

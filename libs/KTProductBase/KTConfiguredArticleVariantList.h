@@ -24,6 +24,7 @@ public:
     KTConfiguredArticleVariantList() = default;
     /** See readVariants(). */
     KTConfiguredArticleVariantList(const QDomElement &element);
+    KTConfiguredArticleVariantList(const KTXMLElement &element);
     KTConfiguredArticleVariantList(const KTConfiguredArticleVariant &variant);
     /**
      * The valid ones of several options. Templates, so that braces around an element, or around key and
@@ -67,6 +68,7 @@ public:
 
     /** Replaces the options by those of the "form" children of the element's first "forms" child. */
     void readVariants(const QDomElement &element);
+    void readVariants(const KTXMLElement &element);
 
     /** The distinct keys, sorted by UTF-16 code units. */
     QStringList keys() const;

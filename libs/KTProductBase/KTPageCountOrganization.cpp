@@ -2,6 +2,7 @@
 
 #include <KTArithmetic.h>
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDebug>
@@ -37,6 +38,11 @@ KTPageCountOrganization::~KTPageCountOrganization() = default;
 
 KTPageCountOrganization KTPageCountOrganization::createFromProductsXML(const QDomElement &element)
 {
+    return createFromProductsXML(KTXMLElement(element));
+}
+
+KTPageCountOrganization KTPageCountOrganization::createFromProductsXML(const KTXMLElement &element)
+{
     const int pieces = KTXMLParser::intAttribute(element, PIECES_ATTRIBUTE, DEFAULT_PIECES);
     const int pages = KTXMLParser::intAttribute(element, PAGES_ATTRIBUTE, DEFAULT_PAGES);
     const int maxPages = KTXMLParser::intAttribute(element, MAX_PAGES_ATTRIBUTE, pages);
@@ -46,6 +52,12 @@ KTPageCountOrganization KTPageCountOrganization::createFromProductsXML(const QDo
 
 KTPageCountOrganization
 KTPageCountOrganization::createFromProductsXMLForPictureBox(const QDomElement &element)
+{
+    return createFromProductsXMLForPictureBox(KTXMLElement(element));
+}
+
+KTPageCountOrganization
+KTPageCountOrganization::createFromProductsXMLForPictureBox(const KTXMLElement &element)
 {
     const int pages = KTXMLParser::intAttribute(element, PAGES_ATTRIBUTE, DEFAULT_PAGES);
     const int maxPages = KTXMLParser::intAttribute(element, MAX_PAGES_ATTRIBUTE,

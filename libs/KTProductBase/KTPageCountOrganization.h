@@ -7,6 +7,7 @@
 #include <QMetaType>
 #include <QString>
 
+class KTXMLElement;
 class QDebug;
 class QDomElement;
 
@@ -34,12 +35,15 @@ public:
      * multiplied by "pieces" (default 1), and the increment "page_step" (default 0), which is taken as it is.
      */
     [[nodiscard]] static KTPageCountOrganization createFromProductsXML(const QDomElement &element);
+    [[nodiscard]] static KTPageCountOrganization createFromProductsXML(const KTXMLElement &element);
     /**
      * Reads "pages" (default 1), "max_pages" (default: 29 more) and "page_step" (default 1): a span
      * of 30 counts, one picture a step. A box never comes in pieces.
      */
     [[nodiscard]] static KTPageCountOrganization
     createFromProductsXMLForPictureBox(const QDomElement &element);
+    [[nodiscard]] static KTPageCountOrganization
+    createFromProductsXMLForPictureBox(const KTXMLElement &element);
     /** The cover and 24 doors. */
     [[nodiscard]] static KTPageCountOrganization createForAdventCalendarWithDoorBackPrint();
 

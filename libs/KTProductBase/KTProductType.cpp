@@ -3,6 +3,7 @@
 #include "KTPriceClass.h"
 
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDebug>
@@ -63,6 +64,11 @@ KTProductType::KTProductType(const QString &code)
 }
 
 KTProductType KTProductType::fromMcf(const QDomElement &element)
+{
+    return fromMcf(KTXMLElement(element));
+}
+
+KTProductType KTProductType::fromMcf(const KTXMLElement &element)
 {
     return KTProductType(KTXMLParser::attribute(element, PRODUCT_NAME_ATTRIBUTE, DEFAULT_PRODUCT_NAME));
 }

@@ -8,6 +8,7 @@
 #include <QMetaType>
 #include <QString>
 
+class KTXMLElement;
 class QDebug;
 class QDomElement;
 
@@ -33,6 +34,7 @@ public:
 
     /** Reads the attribute "productname"; where it is missing, the type is that of "ALB9_30". */
     [[nodiscard]] static KTProductType fromMcf(const QDomElement &element);
+    [[nodiscard]] static KTProductType fromMcf(const KTXMLElement &element);
     /** The product type with the code of the price class. */
     [[nodiscard]] static KTProductType fromPriceClass(const KTPriceClass &priceClass);
 

@@ -1,6 +1,7 @@
 #include "KTShippingGroupId.h"
 
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDataStream>
@@ -23,6 +24,11 @@ KTShippingGroupId::KTShippingGroupId(const QJsonObject &object)
 
 KTShippingGroupId::KTShippingGroupId(const QDomElement &element)
     : KTShippingGroupId(element, SHIPPING_GROUP_ID_KEY)
+{
+}
+
+KTShippingGroupId::KTShippingGroupId(const KTXMLElement &element, const QString &attributeName)
+    : myId(KTXMLParser::intAttribute(element, attributeName, NO_GROUP))
 {
 }
 

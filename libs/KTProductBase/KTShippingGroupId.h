@@ -8,6 +8,7 @@
 #include <QString>
 #include <QtGlobal>
 
+class KTXMLElement;
 class QDataStream;
 class QDebug;
 class QDomElement;
@@ -35,6 +36,7 @@ public:
     /** Reads the attribute "id", or the one with the given name. */
     KTShippingGroupId(const QDomElement &element);
     KTShippingGroupId(const QDomElement &element, const QString &attributeName);
+    KTShippingGroupId(const KTXMLElement &element, const QString &attributeName);
     KTShippingGroupId(const QDomNamedNodeMap &attributes);
     KTShippingGroupId(const QDomNamedNodeMap &attributes, const QString &attributeName);
 

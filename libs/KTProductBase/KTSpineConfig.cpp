@@ -2,6 +2,8 @@
 
 #include "KTSpineConfigImpl.h"
 
+#include <KTXMLElement.h>
+
 #include <QDebug>
 
 KTSpineConfig::KTSpineConfig()
@@ -29,6 +31,11 @@ KTSpineConfig &KTSpineConfig::operator=(KTSpineConfig &&other) noexcept = defaul
 KTSpineConfig::~KTSpineConfig() = default;
 
 KTSpineConfig KTSpineConfig::createFromProductsXML(const QDomElement &element)
+{
+    return createFromProductsXML(KTXMLElement(element));
+}
+
+KTSpineConfig KTSpineConfig::createFromProductsXML(const KTXMLElement &element)
 {
     return KTSpineConfig(new KTSpineConfigImpl(KTSpineConfigImpl::createFromProductsXML(element)));
 }

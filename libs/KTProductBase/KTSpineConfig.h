@@ -10,6 +10,7 @@
 #include <QString>
 
 class KTSpineConfigImpl;
+class KTXMLElement;
 class QDebug;
 class QDomElement;
 
@@ -38,6 +39,7 @@ public:
 
     /** See KTSpineConfigImpl::createFromProductsXML(). */
     [[nodiscard]] static KTSpineConfig createFromProductsXML(const QDomElement &element);
+    [[nodiscard]] static KTSpineConfig createFromProductsXML(const KTXMLElement &element);
 
     /** True when the organisation is. */
     bool isValid() const;

@@ -5,6 +5,7 @@
 #include <KTFontCreator.h>
 #include <KTFontSizeManager.h>
 #include <KTStringLiteral.h>
+#include <KTXMLElement.h>
 #include <KTXMLParser.h>
 
 #include <QDebug>
@@ -20,22 +21,14 @@ namespace {
 
 constexpr KTStringLiteral COMPOSITION_TAG = "composition";
 constexpr KTStringLiteral SPINE_TAG = "spine";
-constexpr KTStringLiteral UNITS_ATTRIBUTE = "units";
 constexpr KTStringLiteral PACKAGES_PER_BLOCK_ATTRIBUTE = "packages_per_block";
 constexpr KTStringLiteral BASE_WIDTH_ATTRIBUTE = "base_width";
 constexpr KTStringLiteral BLOCK_WIDTH_ATTRIBUTE = "block_width";
 constexpr KTStringLiteral ADDITIONAL_WIDTH_ATTRIBUTE = "additional_width";
-constexpr KTStringLiteral DEFAULT_UNIT = "mm";
 
 constexpr double SPINE_SIDES = 2.0;
 /** The share of the bare spine that may be printed on. */
 constexpr double PRINTABLE_SHARE = 0.85;
-
-KTDistanceUnit unitOf(const QDomElement &composition)
-{
-    const QString text = KTXMLParser::attribute(composition, UNITS_ATTRIBUTE, DEFAULT_UNIT, true);
-    return KTDistanceUnit(text.isEmpty() ? QString(DEFAULT_UNIT) : text);
-}
 
 int bounded(unsigned int pages)
 {
@@ -60,9 +53,14 @@ KTSpineConfigImpl::~KTSpineConfigImpl() = default;
 
 KTSpineConfigImpl KTSpineConfigImpl::createFromProductsXML(const QDomElement &element)
 {
-    const QDomElement composition = element.firstChildElement(COMPOSITION_TAG);
-    const KTDistanceUnit unit = unitOf(composition);
-    const QDomElement spine = composition.firstChildElement(SPINE_TAG);
+    return createFromProductsXML(KTXMLElement(element));
+}
+
+KTSpineConfigImpl KTSpineConfigImpl::createFromProductsXML(const KTXMLElement &element)
+{
+    const KTXMLElement composition = element.firstChildElement(COMPOSITION_TAG);
+    const KTDistanceUnit unit = KTXMLParser::readUnit(composition);
+    const KTXMLElement spine = composition.firstChildElement(SPINE_TAG);
     return KTSpineConfigImpl(KTPageCountOrganization::createFromProductsXML(element),
                              KTXMLParser::intAttribute(spine, PACKAGES_PER_BLOCK_ATTRIBUTE, 0),
                              KTXMLParser::readDistance(spine, BASE_WIDTH_ATTRIBUTE, 0.0, unit),

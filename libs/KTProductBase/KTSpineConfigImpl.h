@@ -7,6 +7,7 @@
 #include <QSharedData>
 #include <QString>
 
+class KTXMLElement;
 class QDomElement;
 
 /** The data that copies of a KTSpineConfig share; see there for the operations of the same name. */
@@ -29,6 +30,7 @@ public:
      * unit, a blank text included, counts as the layout unit, with a warning for each width.
      */
     [[nodiscard]] static KTSpineConfigImpl createFromProductsXML(const QDomElement &element);
+    [[nodiscard]] static KTSpineConfigImpl createFromProductsXML(const KTXMLElement &element);
 
     bool isValid() const;
     int additionalPagePackageBlocks(unsigned int pages) const;

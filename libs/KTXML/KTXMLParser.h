@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KTXMLElement.h"
 #include "ktxml_export.h"
 
 #include <KTDistance.h>
@@ -8,7 +9,6 @@
 
 #include <optional>
 
-class QDomElement;
 class QDomNamedNodeMap;
 
 /**
@@ -22,21 +22,28 @@ class KTXML_EXPORT KTXMLParser
 public:
     /** @name The values of texts; none of an unreadable one. Blanks around them are ignored. */
     /** @{ */
-    [[nodiscard]] static std::optional<int> parseInt(const QString &text);
-    [[nodiscard]] static std::optional<double> parseDouble(const QString &text);
+    [[nodiscard]] static std::optional<int> parseInt(QStringView text);
+    [[nodiscard]] static std::optional<double> parseDouble(QStringView text);
     /** "true" and "1", "false" and "0", in any letter case. */
-    [[nodiscard]] static std::optional<bool> parseBool(const QString &text);
+    [[nodiscard]] static std::optional<bool> parseBool(QStringView text);
     /** @} */
 
     /** The text as it stands; an attribute without text is not missing. The last argument has no effect. */
     [[nodiscard]] static QString attribute(const QDomElement &element, const QString &name,
                                            const QString &defaultValue, bool reserved = true);
+    [[nodiscard]] static QString attribute(const KTXMLElement &element, const QString &name,
+                                           const QString &defaultValue, bool reserved = true);
     [[nodiscard]] static int intAttribute(const QDomElement &element, const QString &name, int defaultValue);
     [[nodiscard]] static int intAttribute(const QDomNamedNodeMap &attributes, const QString &name,
                                           int defaultValue);
+    [[nodiscard]] static int intAttribute(const KTXMLElement &element, const QString &name, int defaultValue);
     [[nodiscard]] static bool boolAttribute(const QDomElement &element, const QString &name,
                                             bool defaultValue);
+    [[nodiscard]] static bool boolAttribute(const KTXMLElement &element, const QString &name,
+                                            bool defaultValue);
     [[nodiscard]] static double doubleAttribute(const QDomElement &element, const QString &name,
+                                                double defaultValue);
+    [[nodiscard]] static double doubleAttribute(const KTXMLElement &element, const QString &name,
                                                 double defaultValue);
     /**
      * A length given, like its default, as a number of the unit. One that is not finite in layout units, such
@@ -44,4 +51,8 @@ public:
      */
     [[nodiscard]] static KTDistance readDistance(const QDomElement &element, const QString &name,
                                                  double defaultValue, const KTDistanceUnit &unit);
+    [[nodiscard]] static KTDistance readDistance(const KTXMLElement &element, const QString &name,
+                                                 double defaultValue, const KTDistanceUnit &unit);
+    /** The unit of the element's lengths, "units"; millimetres where it is missing or has no text. */
+    [[nodiscard]] static KTDistanceUnit readUnit(const KTXMLElement &element);
 };
