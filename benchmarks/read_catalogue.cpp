@@ -1,4 +1,4 @@
-#include <KTArticleModel.h>
+#include <KTArticle.h>
 #include <KTCatalogueReader.h>
 
 #include <QFile>
@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
     }
     KTCatalogueReader reader(&file);
     KTCatalogueArticle article;
-    while (reader.readNext(&article))
-        KTArticleModel(article.element());
-    return reader.errorText().isEmpty() ? 0 : 2;
+    while (reader.nextArticle(&article) == KTCatalogueReader::Item::Article)
+        const KTArticle content(article);
+    return reader.error().kind == KTCatalogueErrorKind::None ? 0 : 2;
 }

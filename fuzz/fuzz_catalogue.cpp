@@ -1,9 +1,10 @@
 #include "KTFuzz.h"
 
-#include <KTArticleModel.h>
+#include <KTArticle.h>
 #include <KTArticleReport.h>
 #include <KTCatalogueChecker.h>
 #include <KTCatalogueReader.h>
+#include <KTOrderDraft.h>
 
 #include <QBuffer>
 #include <QJsonDocument>
@@ -19,11 +20,11 @@ void KTFuzz::catalogue(Bytes input)
     KT_REQUIRE(file.open(QIODevice::ReadOnly));
     KTCatalogueReader reader(&file);
     KTCatalogueArticle article;
-    while (reader.readNext(&article)) {
-        KT_REQUIRE(reader.errorText().isEmpty() && !article.elements().isEmpty());
+    while (reader.nextArticle(&article) == KTCatalogueReader::Item::Article) {
+        KT_REQUIRE(reader.error().kind == KTCatalogueErrorKind::None && !article.root().isNull());
         if (question & Check)
             continue;
-        const KTArticleModel model(article.element());
+        const KTArticle model(article);
         if (question & JSON)
             KT_REQUIRE(!QJsonDocument(KTArticleReport::toJSON(model, pageCounts)).toJson().isEmpty());
         else
@@ -31,9 +32,9 @@ void KTFuzz::catalogue(Bytes input)
             for (const QChar character : KTArticleReport::toText(model, pageCounts))
                 KT_REQUIRE(character == u'\n' || character.category() != QChar::Other_Control);
         for (const int wish : KTTest::INTS)
-            use(model.validPagesAround(wish));
+            use(KTOrderDraft(model).setPages(wish));
     }
-    KT_REQUIRE(!reader.readNext(&article));
+    KT_REQUIRE(reader.next(&article) != KTCatalogueReader::Item::Article);
     if (!(question & Check))
         return;
 
@@ -43,9 +44,9 @@ void KTFuzz::catalogue(Bytes input)
     int findings = 0;
     KTCatalogueChecker checker([&](const KTFinding &finding) {
         ++findings;
-        KT_REQUIRE(finding.position.line >= 1 && finding.position.line <= lastLine);
-        KT_REQUIRE(finding.position.column >= 1 && !finding.message.isEmpty());
+        KT_REQUIRE(finding.range.begin.line >= 1 && finding.range.begin.line <= lastLine);
+        KT_REQUIRE(finding.range.begin.column >= 1 && !finding.message.isEmpty());
     });
     KT_REQUIRE(checker.check(QStringLiteral("fuzz.xml"), &file) || findings > 0);
-    KT_REQUIRE(reader.errorText().isEmpty() || findings > 0);
+    KT_REQUIRE(reader.error().kind == KTCatalogueErrorKind::None || findings > 0);
 }

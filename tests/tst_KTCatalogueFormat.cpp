@@ -1,4 +1,4 @@
-#include <KTArticleModel.h>
+#include <KTArticle.h>
 #include <KTArticleReport.h>
 #include <KTCatalogueFormat.h>
 
@@ -24,9 +24,10 @@ static const QString ARTICLE = u"<article art_id='7' id='8' name='n' article_cla
 /** All that the library reads of the article. */
 static QString everythingIn(const QDomElement &article)
 {
-    const KTArticleModel model(article);
+    const KTArticle model(article);
     return QString::fromUtf8(QJsonDocument(KTArticleReport::toJSON(model, {})).toJson())
-        + KTTest::logged(model.options) + QString::number(model.spine.additionalSpineWidth().layoutUnits());
+        + KTTest::logged(model.options())
+        + QString::number(model.spine().additionalSpineWidth().layoutUnits());
 }
 
 /** The same with the attribute changed; a null text takes it away. */

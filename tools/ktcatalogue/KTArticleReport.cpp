@@ -1,10 +1,11 @@
 #include "KTArticleReport.h"
 
-#include "KTArticleModel.h"
 #include "KTTerminalText.h"
-#include "KTVariantsText.h"
 
+#include <KTArticle.h>
 #include <KTDistanceUnit.h>
+#include <KTMillimeterText.h>
+#include <KTVariantsText.h>
 
 #include <QJsonArray>
 #include <QMap>
@@ -18,7 +19,6 @@ namespace {
 const QString INDENT = QStringLiteral("  ");
 constexpr int LABEL_WIDTH = 16;
 constexpr qint64 MOST_BOX_STYLES = 1000;
-constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 
 QString line(const QString &label, const QString &text)
 {
@@ -28,19 +28,10 @@ QString line(const QString &label, const QString &text)
     return line;
 }
 
-QString millimeters(double layoutUnits)
+double spineMillimeters(const KTArticle &article, int pages)
 {
-    return QString::number(layoutUnits / LAYOUT_UNITS_PER_MILLIMETER, 'f', 1);
-}
-
-QString millimeters(const QSize &size)
-{
-    return QStringLiteral("%1 x %2 mm").arg(millimeters(size.width()), millimeters(size.height()));
-}
-
-double spineMillimeters(const KTArticleModel &article, int pages)
-{
-    return article.spine.spineWidth(static_cast<unsigned int>(std::max(0, pages)))
+    return article.spine()
+        .spineWidth(static_cast<unsigned int>(std::max(0, pages)))
         .value(KTDistanceUnitMillimeter);
 }
 
@@ -57,10 +48,10 @@ QList<int> samplePageCounts(const KTPageCountOrganization &counts)
     return samples;
 }
 
-QStringList classificationLines(const KTArticleModel &article)
+QStringList classificationLines(const KTArticle &article)
 {
     QStringList lines;
-    for (const KTArticleModel::Classified &entry : article.classifications) {
+    for (const KTArticle::Classified &entry : article.classifications()) {
         const KTAttributeRow &row = KTCatalogueFormat::attribute(entry.attribute);
         const KTClassification &classification = KTClassification::of(row.classification);
         lines.append(line(row.name.toString(),
@@ -77,21 +68,21 @@ QStringList classificationLines(const KTArticleModel &article)
     return lines;
 }
 
-QStringList productLines(const KTArticleModel &article)
+QStringList productLines(const KTArticle &article)
 {
     QStringList marks;
-    if (article.productType.isCalendar())
+    if (article.productType().isCalendar())
         marks.append(QStringLiteral("calendar"));
-    if (article.productType.isAgenda())
+    if (article.productType().isAgenda())
         marks.append(QStringLiteral("agenda"));
     QStringList lines {
         line(QStringLiteral("product type"),
-             visible(article.productType.orderTxtName()) + INDENT + marks.join(QStringLiteral(", ")))};
+             visible(article.productType().orderTxtName()) + INDENT + marks.join(QStringLiteral(", ")))};
     lines.append(line(QStringLiteral("price class"),
-                      article.priceClass.isFree()
-                          ? QStringLiteral("%1  free").arg(visible(article.priceClass.toString())).trimmed()
-                          : visible(article.priceClass.toString())));
-    const KTShippingGroupId group = article.shippingGroup;
+                      article.priceClass().isFree()
+                          ? QStringLiteral("%1  free").arg(visible(article.priceClass().toString())).trimmed()
+                          : visible(article.priceClass().toString())));
+    const KTShippingGroupId group = article.shippingGroup();
     lines.append(line(QStringLiteral("shipping group"),
                       !group.isValid()                 ? QStringLiteral("none")
                           : group.isCombinedTransfer() ? QStringLiteral("0  combined transfer")
@@ -99,9 +90,9 @@ QStringList productLines(const KTArticleModel &article)
     return lines;
 }
 
-QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
+QStringList pageLines(const KTArticle &article, const QList<int> &wishes)
 {
-    const KTPageCountOrganization &counts = article.pageCounts;
+    const KTPageCountOrganization &counts = article.pageCounts();
     QString text
         = QStringLiteral("%1 to %2, step %3: %4 %5")
               .arg(counts.minPages())
@@ -120,7 +111,7 @@ QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
         lines.append(
             line(QString(), QStringLiteral("%1 pages become %2").arg(wish).arg(granted.constLast())));
     }
-    if (article.hasSpine) {
+    if (article.hasSpine()) {
         QStringList widths;
         for (const int pages : wishes.isEmpty() ? samplePageCounts(counts) : granted)
             widths.append(QStringLiteral("%1 mm at %2 pages")
@@ -128,22 +119,25 @@ QStringList pageLines(const KTArticleModel &article, const QList<int> &wishes)
                               .arg(pages));
         lines.append(line(QStringLiteral("spine"), widths.join(QStringLiteral(", "))));
     }
-    for (const KTArticleModel::Page &page : article.pages) {
-        lines.append(line(QStringLiteral("page size"),
-                          QStringLiteral("%1  %2, with bleed %3")
-                              .arg(page.context.pageType().encode(), millimeters(page.size.usableSize()),
-                                   millimeters(page.size.totalSize()))));
+    for (const KTArticle::Page &page : article.pages()) {
+        lines.append(
+            line(QStringLiteral("page size"),
+                 QStringLiteral("%1  %2, with bleed %3")
+                     .arg(page.context.pageType().encode(), KTMillimeterText::text(page.size.usableSize()),
+                          KTMillimeterText::text(page.size.totalSize()))));
         if (page.size.usableSlipcaseCoverSize().isValid())
-            lines.append(line(
-                QString(),
-                QStringLiteral("slipcase cover %1").arg(millimeters(page.size.usableSlipcaseCoverSize()))));
+            lines.append(line(QString(),
+                              QStringLiteral("slipcase cover %1")
+                                  .arg(KTMillimeterText::text(page.size.usableSlipcaseCoverSize()))));
     }
-    for (const KTBarcodeDefinition &barcode : article.barcodes) {
-        lines.append(line(QStringLiteral("barcode"),
-                          QStringLiteral("page %1: %2 at %3, %4 mm  %5")
-                              .arg(barcode.pageNr())
-                              .arg(millimeters(barcode.rect().size()), millimeters(barcode.rect().x()),
-                                   millimeters(barcode.rect().y()), visible(barcode.imageName()))));
+    for (const KTBarcodeDefinition &barcode : article.barcodes()) {
+        lines.append(
+            line(QStringLiteral("barcode"),
+                 QStringLiteral("page %1: %2 at %3, %4 mm  %5")
+                     .arg(barcode.pageNr())
+                     .arg(KTMillimeterText::text(barcode.rect().size()),
+                          KTMillimeterText::text(barcode.rect().x()),
+                          KTMillimeterText::text(barcode.rect().y()), visible(barcode.imageName()))));
     }
     return lines;
 }
@@ -217,10 +211,10 @@ QJsonObject optionJson(const KTConfiguredArticleVariant &option)
     return object;
 }
 
-QJsonObject classificationsJson(const KTArticleModel &article)
+QJsonObject classificationsJson(const KTArticle &article)
 {
     QJsonObject object;
-    for (const KTArticleModel::Classified &entry : article.classifications) {
+    for (const KTArticle::Classified &entry : article.classifications()) {
         const KTAttributeRow &row = KTCatalogueFormat::attribute(entry.attribute);
         const KTClassification &classification = KTClassification::of(row.classification);
         QJsonObject json {
@@ -237,9 +231,9 @@ QJsonObject classificationsJson(const KTArticleModel &article)
     return object;
 }
 
-QJsonObject pageCountsJson(const KTArticleModel &article, const QList<int> &wishes)
+QJsonObject pageCountsJson(const KTArticle &article, const QList<int> &wishes)
 {
-    const KTPageCountOrganization &counts = article.pageCounts;
+    const KTPageCountOrganization &counts = article.pageCounts();
     QJsonObject object {
         {QStringLiteral("minimum"),    counts.minPages()        },
         {QStringLiteral("maximum"),    counts.maxPages()        },
@@ -255,7 +249,7 @@ QJsonObject pageCountsJson(const KTArticleModel &article, const QList<int> &wish
             {QStringLiteral("pages"),   pages  },
             {QStringLiteral("becomes"), becomes}
         };
-        if (article.hasSpine)
+        if (article.hasSpine())
             answer.insert(QStringLiteral("spineMillimeters"), spineMillimeters(article, becomes));
         answers.append(answer);
     }
@@ -265,13 +259,13 @@ QJsonObject pageCountsJson(const KTArticleModel &article, const QList<int> &wish
 
 QJsonArray sizeJson(const QSize &size)
 {
-    return {size.width() / LAYOUT_UNITS_PER_MILLIMETER, size.height() / LAYOUT_UNITS_PER_MILLIMETER};
+    return {KTMillimeterText::millimeters(size.width()), KTMillimeterText::millimeters(size.height())};
 }
 
-QJsonArray pagesJson(const KTArticleModel &article)
+QJsonArray pagesJson(const KTArticle &article)
 {
     QJsonArray pages;
-    for (const KTArticleModel::Page &page : article.pages) {
+    for (const KTArticle::Page &page : article.pages()) {
         QJsonObject object {
             {QStringLiteral("type"),              page.context.pageType().encode()    },
             {QStringLiteral("alignment"),         page.context.alignment().encodeCSV()},
@@ -286,17 +280,17 @@ QJsonArray pagesJson(const KTArticleModel &article)
     return pages;
 }
 
-QJsonArray barcodesJson(const KTArticleModel &article)
+QJsonArray barcodesJson(const KTArticle &article)
 {
     QJsonArray barcodes;
-    for (const KTBarcodeDefinition &barcode : article.barcodes) {
+    for (const KTBarcodeDefinition &barcode : article.barcodes()) {
         const QRect rect = barcode.rect();
         barcodes.append(QJsonObject {
-            {QStringLiteral("page"),            barcode.pageNr()                      },
-            {QStringLiteral("leftMillimeters"), rect.x() / LAYOUT_UNITS_PER_MILLIMETER},
-            {QStringLiteral("topMillimeters"),  rect.y() / LAYOUT_UNITS_PER_MILLIMETER},
-            {QStringLiteral("sizeMillimeters"), sizeJson(rect.size())                 },
-            {QStringLiteral("image"),           barcode.imageName()                   }
+            {QStringLiteral("page"),            barcode.pageNr()                       },
+            {QStringLiteral("leftMillimeters"), KTMillimeterText::millimeters(rect.x())},
+            {QStringLiteral("topMillimeters"),  KTMillimeterText::millimeters(rect.y())},
+            {QStringLiteral("sizeMillimeters"), sizeJson(rect.size())                  },
+            {QStringLiteral("image"),           barcode.imageName()                    }
         });
     }
     return barcodes;
@@ -312,47 +306,56 @@ KTArticleVariantsList readableBoxStyles(const KTConfiguredArticleVariantList &op
 
 } // namespace
 
-QString KTArticleReport::toText(const KTArticleModel &article, const QList<int> &pageCounts)
+QString KTArticleReport::toText(const KTArticle &article, const QList<int> &pageCounts)
 {
-    QStringList lines {
-        QStringLiteral("article %1  %2").arg(article.articleId.toString(), visible(article.name)).trimmed()};
-    if (!article.articleId.isValid())
+    QStringList lines {QStringLiteral("article %1  %2")
+                           .arg(article.articleId().toString(), visible(article.name()))
+                           .trimmed()};
+    if (!article.articleId().isValid())
         lines.append(INDENT + QStringLiteral("has no valid number"));
     lines += classificationLines(article) + productLines(article) + pageLines(article, pageCounts)
-        + optionLines(article.options);
+        + optionLines(article.options());
 
-    const KTArticleVariants defaults = article.options.defaultVariants();
+    const KTArticleVariants defaults = article.options().defaultVariants();
     if (defaults.isValid())
         lines.append(line(QStringLiteral("default choice"), visible(KTVariantsText::mcf(defaults))));
-    for (const KTArticleVariants &style : readableBoxStyles(article.options))
+    for (const KTArticleVariants &style : readableBoxStyles(article.options()))
         lines.append(line(QStringLiteral("box style"), visible(KTVariantsText::mcf(style))));
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-QJsonObject KTArticleReport::toJSON(const KTArticleModel &article, const QList<int> &pageCounts)
+QJsonObject KTArticleReport::toJSON(const KTArticle &article, const QList<int> &pageCounts)
 {
     QJsonArray options;
-    for (const KTConfiguredArticleVariant &option : article.options)
+    for (const KTConfiguredArticleVariant &option : article.options())
         options.append(optionJson(option));
     QJsonArray boxStyles;
-    for (const KTArticleVariants &style : readableBoxStyles(article.options))
-        boxStyles.append(KTVariantsText::json(style));
+    for (const KTArticleVariants &style : readableBoxStyles(article.options()))
+        boxStyles.append(KTArticleReport::toJSON(style));
 
     QJsonObject object {
-        {QStringLiteral("name"),            article.name                      },
-        {QStringLiteral("classifications"), classificationsJson(article)      },
-        {QStringLiteral("productType"),     article.productType.orderTxtName()},
-        {QStringLiteral("calendar"),        article.productType.isCalendar()  },
-        {QStringLiteral("agenda"),          article.productType.isAgenda()    },
-        {QStringLiteral("priceClass"),      article.priceClass.toString()     },
-        {QStringLiteral("shippingGroup"),   article.shippingGroup.id()        },
-        {QStringLiteral("pageCounts"),      pageCountsJson(article,             pageCounts)},
-        {QStringLiteral("pages"),                                 pagesJson(article)                                            },
+        {QStringLiteral("name"),            article.name()                      },
+        {QStringLiteral("classifications"), classificationsJson(article)        },
+        {QStringLiteral("productType"),     article.productType().orderTxtName()},
+        {QStringLiteral("calendar"),        article.productType().isCalendar()  },
+        {QStringLiteral("agenda"),          article.productType().isAgenda()    },
+        {QStringLiteral("priceClass"),      article.priceClass().toString()     },
+        {QStringLiteral("shippingGroup"),   article.shippingGroup().id()        },
+        {QStringLiteral("pageCounts"),      pageCountsJson(article,               pageCounts)},
+        {QStringLiteral("pages"),                                 pagesJson(article)                                              },
         {QStringLiteral("barcodes"),                                 barcodesJson(article)},
-        {QStringLiteral("options"),                                 options                                             },
-        {QStringLiteral("defaultChoice"),                                 KTVariantsText::json(article.options.defaultVariants())},
-        {QStringLiteral("boxStyles"),                                 boxStyles                                                 },
+        {QStringLiteral("options"),                                 options                                               },
+        {QStringLiteral("defaultChoice"),                                 KTArticleReport::toJSON(article.options().defaultVariants())},
+        {QStringLiteral("boxStyles"),                                 boxStyles                                                   },
     };
-    article.articleId.toJSON(object);
+    article.articleId().toJSON(object);
+    return object;
+}
+
+QJsonObject KTArticleReport::toJSON(const KTArticleVariants &variants)
+{
+    QJsonObject object;
+    for (const QString &key : variants.keys())
+        object.insert(key, variants.value(key, QString()));
     return object;
 }

@@ -3,7 +3,8 @@
 #include <QJsonObject>
 #include <QList>
 
-struct KTArticleModel;
+class KTArticle;
+class KTArticleVariants;
 
 /** An article as text for people and as JSON for programs. */
 namespace KTArticleReport {
@@ -12,7 +13,8 @@ namespace KTArticleReport {
  * Several lines, ready for a terminal. The spine's width is given for what becomes of each of the page
  * counts; without any, for the least, a middle and the highest one.
  */
-QString toText(const KTArticleModel &article, const QList<int> &pageCounts);
-QJsonObject toJSON(const KTArticleModel &article, const QList<int> &pageCounts);
+QString toText(const KTArticle &article, const QList<int> &pageCounts);
+QJsonObject toJSON(const KTArticle &article, const QList<int> &pageCounts);
+QJsonObject toJSON(const KTArticleVariants &variants);
 
 } // namespace KTArticleReport

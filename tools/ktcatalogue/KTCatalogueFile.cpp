@@ -11,12 +11,18 @@ KTCatalogueFile::KTCatalogueFile(const QString &name)
         myReader = std::make_unique<KTCatalogueReader>(&myFile);
 }
 
-std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optional<KTArticleModel> *article)
+std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optional<KTArticle> *article)
 {
     return forEachArticle([=](const KTCatalogueArticle &candidate) {
-        if (!*article && KTArticleId::findId(candidate.element()) == articleId)
-            article->emplace(candidate.element());
+        if (!*article && KTArticleId::findId(candidate.root()) == articleId)
+            article->emplace(candidate);
     });
+}
+
+/** False at the end of the file, and where it was refused. */
+bool KTCatalogueFile::readNext(KTCatalogueArticle *article)
+{
+    return myReader && myReader->nextArticle(article) == KTCatalogueReader::Item::Article;
 }
 
 std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
@@ -25,11 +31,11 @@ std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
         return KTCommandLine::fail(KTExitUnreadable,
                                    QStringLiteral("%1: error: %2").arg(myName, myOpenError));
     }
-    if (myReader->errorText().isEmpty())
+    const KTCatalogueError error = myReader->error();
+    if (error.kind == KTCatalogueErrorKind::None)
         return std::nullopt;
-    const KTFilePosition position = myReader->errorPosition();
     return KTCommandLine::fail(KTExitUnreadable,
                                QStringLiteral("%1:%2:%3: error: %4")
-                                   .arg(myName, QString::number(position.line),
-                                        QString::number(position.column), myReader->errorText()));
+                                   .arg(myName, QString::number(error.position.line),
+                                        QString::number(error.position.column), error.text));
 }

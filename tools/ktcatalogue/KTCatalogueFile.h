@@ -1,9 +1,10 @@
 #pragma once
 
-#include "KTArticleModel.h"
-#include "KTCatalogueReader.h"
 #include "KTExitCode.h"
 #include "KTProgressLine.h"
+
+#include <KTArticle.h>
+#include <KTCatalogueReader.h>
 
 #include <QFile>
 
@@ -26,7 +27,7 @@ public:
     {
         KTCatalogueArticle article;
         KTProgressLine progress(true);
-        for (int count = 1; myReader && myReader->readNext(&article); ++count) {
+        for (int count = 1; readNext(&article); ++count) {
             function(article);
             if (progress.isDue())
                 progress.show(QStringLiteral("%1: %2 articles").arg(myName, QString::number(count)));
@@ -36,9 +37,10 @@ public:
     }
 
     /** Reads the first article with the number, if there is one, and the file to its end as above. */
-    std::optional<KTExitCode> readArticle(int articleId, std::optional<KTArticleModel> *article);
+    std::optional<KTExitCode> readArticle(int articleId, std::optional<KTArticle> *article);
 
 private:
+    bool readNext(KTCatalogueArticle *article);
     std::optional<KTExitCode> reportFailure() const;
 
     QString myName;

@@ -1,11 +1,12 @@
 #include "KTCheckCommand.h"
 
-#include "KTCatalogueChecker.h"
 #include "KTCommandLine.h"
 #include "KTFileName.h"
 #include "KTFindingWriter.h"
-#include "KTNearestWord.h"
 #include "KTProgressLine.h"
+
+#include <KTCatalogueChecker.h>
+#include <KTNearestWord.h>
 
 #include <QFile>
 
@@ -186,6 +187,17 @@ std::optional<KTExitCode> readNames(const QString &listName, QStringList *names)
 /** What the library logs about the texts that it is asked about, the findings say better. */
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
+/** False when the file is no catalogue, which is reported. */
+bool checkFile(KTCatalogueChecker *checker, const QString &name)
+{
+    QFile file;
+    const QString error = KTFileName::open(&file, name);
+    if (error.isEmpty())
+        return checker->check(name, &file);
+    checker->reportUnreadable(name, error);
+    return false;
+}
+
 KTExitCode checkFiles(const QStringList &names, const Options &options)
 {
     const auto writer = KTFindingWriter::create(options.format, options.isColored);
@@ -215,7 +227,7 @@ KTExitCode checkFiles(const QStringList &names, const Options &options)
     for (const QString &file : names) {
         name = file;
         ofFile = KTFindingCounts();
-        if (!checker.checkFile(name))
+        if (!checkFile(&checker, name))
             ++ofFile.unreadable;
         total.add(ofFile);
         progress.clear();

@@ -66,9 +66,9 @@ public:
     void write(const KTFinding &finding) override
     {
         const QString place = KTTerminalText::visible(finding.file)
-            + (finding.position.line == 0
+            + (finding.range.begin.line == 0
                    ? QStringLiteral(":")
-                   : QStringLiteral(":%1:%2:").arg(finding.position.line).arg(finding.position.column));
+                   : QStringLiteral(":%1:%2:").arg(finding.range.begin.line).arg(finding.range.begin.column));
         const QString severity = KTCheckRules::name(finding.severity) + QLatin1Char(':');
         const QString rest = KTTerminalText::visible(finding.message)
             + QStringLiteral(" [%1]\n").arg(KTCheckRules::name(finding.rule));
@@ -118,8 +118,8 @@ protected:
             {QStringLiteral("rule"),      KTCheckRules::name(finding.rule)    },
             {QStringLiteral("severity"),  KTCheckRules::name(finding.severity)},
             {QStringLiteral("file"),      KTFileName::escaped(finding.file)   },
-            {QStringLiteral("line"),      finding.position.line               },
-            {QStringLiteral("column"),    finding.position.column             },
+            {QStringLiteral("line"),      finding.range.begin.line            },
+            {QStringLiteral("column"),    finding.range.begin.column          },
             {QStringLiteral("article"),   finding.articleId                   },
             {QStringLiteral("element"),   finding.element                     },
             {QStringLiteral("attribute"), finding.attribute                   },
@@ -164,11 +164,11 @@ protected:
             {QStringLiteral("artifactLocation"),
              QJsonObject {{QStringLiteral("uri"), QString::fromLatin1(uri)}}}
         };
-        if (finding.position.line > 0) {
+        if (finding.range.begin.line > 0) {
             physical.insert(QStringLiteral("region"),
                             QJsonObject {
-                                {QStringLiteral("startLine"),   finding.position.line  },
-                                {QStringLiteral("startColumn"), finding.position.column},
+                                {QStringLiteral("startLine"),   finding.range.begin.line  },
+                                {QStringLiteral("startColumn"), finding.range.begin.column},
             });
         }
         QJsonObject location {

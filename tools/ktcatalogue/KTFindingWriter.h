@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KTFinding.h"
+#include <KTFinding.h>
 
 #include <QFile>
 

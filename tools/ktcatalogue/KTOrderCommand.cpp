@@ -1,12 +1,13 @@
 #include "KTOrderCommand.h"
 
-#include "KTArticleModel.h"
+#include "KTArticleReport.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
-#include "KTNearestWord.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
-#include "KTVariantsText.h"
+
+#include <KTOrderDraft.h>
+#include <KTVariantsText.h>
 
 #include <QJsonDocument>
 
@@ -15,68 +16,32 @@ namespace {
 const QString TEXT_FORMAT = QStringLiteral("text");
 const QString JSON_FORMAT = QStringLiteral("json");
 
-QStringList distinctValues(const KTConfiguredArticleVariantList &options)
-{
-    QStringList values;
-    for (const KTConfiguredArticleVariant &option : options)
-        values.append(option.value());
-    values.removeDuplicates();
-    return values;
-}
-
-/** What is wrong with a choice that the article does not offer; empty for one that it does. */
-QString objection(const KTConfiguredArticleVariantList &options, const QString &key, const QString &value)
-{
-    if (options.contains(KTConfiguredArticleVariant(key, value)))
-        return QString();
-    const bool isKeyOffered = options.keys().contains(key);
-    const QStringList offered = isKeyOffered ? distinctValues(options.filter(key)) : options.keys();
-    const QString nearest = KTNearestWord::find(isKeyOffered ? value : key, offered);
-
-    QString text = isKeyOffered ? QStringLiteral("does not offer '%1' for '%2'").arg(value, key)
-                                : QStringLiteral("has no option '%1'").arg(key);
-    text += offered.isEmpty() ? QStringLiteral("; it offers none")
-                              : QStringLiteral("; offered: ") + offered.join(QStringLiteral(", "));
-    if (!nearest.isNull())
-        text += QStringLiteral("; did you mean '%1'?").arg(nearest);
-    return text;
-}
-
-/** What is written for an order. */
-struct Order
-{
-    const KTArticleModel &article;
-    std::optional<int> pages;
-    KTArticleVariants choice;
-};
-
-QString text(const Order &order)
+QString text(const KTOrderDraft &order)
 {
     const auto line = [](const char *label, const QString &value) {
         return QStringLiteral("%1  %2\n")
             .arg(QString::fromLatin1(label).leftJustified(12), KTTerminalText::visible(value));
     };
-    return line("article", order.article.articleId.toString())
-        + line("product type", order.article.productType.orderTxtName())
-        + (order.pages ? line("pages", QString::number(*order.pages)) : QString())
-        + line("order text", KTVariantsText::orderTxt(order.choice))
-        + line("MCF", KTVariantsText::mcf(order.choice))
-        + line("production", KTVariantsText::mcf(KTVariantsText::xtci(order.choice)));
+    return line("article", order.article().articleId().toString())
+        + line("product type", order.article().productType().orderTxtName())
+        + (order.pages() ? line("pages", QString::number(*order.pages())) : QString())
+        + line("order text", order.orderText()) + line("MCF", order.mcf())
+        + line("production", KTVariantsText::mcf(order.production()));
 }
 
-QString json(const Order &order)
+QString json(const KTOrderDraft &order)
 {
     QJsonObject object {
-        {QStringLiteral("format"),      1                                                       },
-        {QStringLiteral("productType"), order.article.productType.orderTxtName()                },
-        {QStringLiteral("choice"),      KTVariantsText::json(order.choice)                      },
-        {QStringLiteral("orderText"),   KTVariantsText::orderTxt(order.choice)                  },
-        {QStringLiteral("mcf"),         KTVariantsText::mcf(order.choice)                       },
-        {QStringLiteral("production"),  KTVariantsText::json(KTVariantsText::xtci(order.choice))},
+        {QStringLiteral("format"),      1                                           },
+        {QStringLiteral("productType"), order.article().productType().orderTxtName()},
+        {QStringLiteral("choice"),      KTArticleReport::toJSON(order.choice())     },
+        {QStringLiteral("orderText"),   order.orderText()                           },
+        {QStringLiteral("mcf"),         order.mcf()                                 },
+        {QStringLiteral("production"),  KTArticleReport::toJSON(order.production()) },
     };
-    if (order.pages)
-        object.insert(QStringLiteral("pages"), *order.pages);
-    order.article.articleId.toJSON(object);
+    if (order.pages())
+        object.insert(QStringLiteral("pages"), *order.pages());
+    order.article().articleId().toJSON(object);
     return KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()));
 }
 
@@ -129,25 +94,21 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
     if (!format)
         return KTExitUsage;
 
-    std::optional<KTArticleModel> article;
+    std::optional<KTArticle> article;
     if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
         return *failure;
     if (!article)
         return commandLine.failNoArticle(*wanted);
 
-    QStringList objections;
-    for (const QString &key : chosen->keys())
-        objections.append(objection(article->options, key, chosen->value(key, QString())));
-    if (!pages->isEmpty())
-        objections.append(article->objectionToPages(pages->constLast()));
-    objections.removeAll(QString());
-    if (!objections.isEmpty())
-        return commandLine.failArticle(*wanted, objections.constFirst());
-
-    Order order {*article, std::nullopt, article->options.defaultVariants()};
-    if (!pages->isEmpty())
-        order.pages = pages->constLast();
-    order.choice.insert(*chosen);
+    KTOrderDraft order(*article);
+    for (const QString &key : chosen->keys()) {
+        if (const auto refusal = order.choose(key, chosen->value(key, QString())))
+            return commandLine.failArticle(*wanted, refusal->toString());
+    }
+    if (!pages->isEmpty()) {
+        if (const auto refusal = order.setPages(pages->constLast()))
+            return commandLine.failArticle(*wanted, refusal->toString());
+    }
     KTSpool spool;
     spool.write(*format == JSON_FORMAT ? json(order) : text(order));
     return KTCommandLine::deliver(&spool);

@@ -1,10 +1,11 @@
 #include "KTPreviewCommand.h"
 
-#include "KTArticleModel.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
 #include "KTFileName.h"
 #include "KTPreviewPainter.h"
+
+#include <KTOrderDraft.h>
 
 #include <QBuffer>
 #include <QDateTime>
@@ -123,6 +124,13 @@ const FormatRow *formatOf(const QString &fileName)
     return nullptr;
 }
 
+/** Why the article cannot have so many pages; empty when it can. */
+QString objectionToPages(const KTArticle &article, int pages)
+{
+    const std::optional<KTOrderRefusal> refusal = KTOrderDraft(article).setPages(pages);
+    return refusal ? refusal->toString() : QString();
+}
+
 } // namespace
 
 KTExitCode KTPreviewCommand::run(const QStringList &arguments)
@@ -162,15 +170,15 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
         return KTCommandLine::failUsage(
             QStringLiteral("'%1' does not end in .svg, .png or .pdf").arg(output));
 
-    std::optional<KTArticleModel> article;
+    std::optional<KTArticle> article;
     if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
         return *failure;
     if (!article)
         return commandLine.failNoArticle(*wanted);
-    QString objection = pages->isEmpty() ? QString() : article->objectionToPages(pages->constLast());
+    QString objection = pages->isEmpty() ? QString() : objectionToPages(*article, pages->constLast());
     std::optional<KTPreviewModel> model;
     if (objection.isEmpty()) {
-        const int count = pages->isEmpty() ? article->pageCounts.minPages() : pages->constLast();
+        const int count = pages->isEmpty() ? article->pageCounts().minPages() : pages->constLast();
         model = KTPreviewModel::create(*article, count, &objection);
     }
     if (!model)

@@ -1,7 +1,9 @@
 #include "KTPreviewModel.h"
 
-#include "KTArticleModel.h"
 #include "KTTerminalText.h"
+
+#include <KTArticle.h>
+#include <KTMillimeterText.h>
 
 #include <QMap>
 
@@ -12,7 +14,6 @@ using KTTerminalText::visible;
 
 namespace {
 
-constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 /** More pages with barcodes would make the cover too small. */
 constexpr int MOST_INNER_PAGES = 2;
 constexpr int COVER_PAGE = 0;
@@ -23,16 +24,12 @@ constexpr KTPageTypeEnum COVER_KINDS[] = {
     KTPageTypeCalendarcoverfront | KTPageTypeCardfront,
 };
 
-using Page = KTArticleModel::Page;
-
-QString millimeters(double layoutUnits)
-{
-    return QString::number(layoutUnits / LAYOUT_UNITS_PER_MILLIMETER, 'f', 1);
-}
+using Page = KTArticle::Page;
 
 QString millimeters(const QSizeF &size)
 {
-    return QStringLiteral("%1 × %2").arg(millimeters(size.width()), millimeters(size.height()));
+    return QStringLiteral("%1 × %2").arg(KTMillimeterText::text(size.width()),
+                                         KTMillimeterText::text(size.height()));
 }
 
 bool isDrawable(double length, double minimum)
@@ -49,8 +46,8 @@ bool isDrawable(const QSize &size)
 QString objectionTo(const QString &part, const QString &size)
 {
     return QStringLiteral("has a %1 of %2 mm; a preview shows sides from %3 to %4 mm")
-        .arg(part, size, millimeters(KTPreviewModel::MINIMUM_LENGTH),
-             millimeters(KTPreviewModel::MAXIMUM_LENGTH));
+        .arg(part, size, KTMillimeterText::text(KTPreviewModel::MINIMUM_LENGTH),
+             KTMillimeterText::text(KTPreviewModel::MAXIMUM_LENGTH));
 }
 
 /** What cannot be drawn of the page; empty for nothing. */
@@ -63,7 +60,7 @@ QString objectionTo(const Page &page)
     for (const int margin : {bleed.top(), bleed.bottom(), bleed.left(), bleed.right()}) {
         if (!isDrawable(margin, 0.0))
             return QStringLiteral("has a bleed of %1 mm; a preview shows 0.0 to %2 mm")
-                .arg(millimeters(margin), millimeters(KTPreviewModel::MAXIMUM_LENGTH));
+                .arg(KTMillimeterText::text(margin), KTMillimeterText::text(KTPreviewModel::MAXIMUM_LENGTH));
     }
     const QSize slipcase = page.size.usableSlipcaseCoverSize();
     if (slipcase != QSize(-1, -1) && !isDrawable(slipcase))
@@ -171,28 +168,30 @@ void addSizes(KTPreviewModel *model, const Page &front, int pages)
             add(panel.name, millimeters(panel.usable.size()));
     }
     if (!cover.spine.isEmpty())
-        add(QStringLiteral("Spine at %1 pages").arg(pages), millimeters(cover.spine.width()));
+        add(QStringLiteral("Spine at %1 pages").arg(pages), KTMillimeterText::text(cover.spine.width()));
     if (cover.additionalSpineWidth > 0.0)
-        add(QStringLiteral("added on each side"), millimeters(cover.additionalSpineWidth));
+        add(QStringLiteral("added on each side"), KTMillimeterText::text(cover.additionalSpineWidth));
     add(QStringLiteral("With bleed"), millimeters(cover.total.size()));
     const KTMargins bleed = front.size.bleedMargins();
     add(QStringLiteral("Bleed top, bottom"),
-        QStringLiteral("%1, %2").arg(millimeters(bleed.top()), millimeters(bleed.bottom())));
+        QStringLiteral("%1, %2").arg(KTMillimeterText::text(bleed.top()),
+                                     KTMillimeterText::text(bleed.bottom())));
     add(QStringLiteral("Bleed left, right"),
-        QStringLiteral("%1, %2").arg(millimeters(bleed.left()), millimeters(bleed.right())));
+        QStringLiteral("%1, %2").arg(KTMillimeterText::text(bleed.left()),
+                                     KTMillimeterText::text(bleed.right())));
     if (!last.slipcase.isEmpty())
         add(QStringLiteral("Slipcase cover"), millimeters(last.slipcase.size()));
 }
 
 /** Puts each barcode on the figure of its page, or into the notes. */
-void addBarcodes(KTPreviewModel *model, const KTArticleModel &article, int pages)
+void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
 {
     const Page *const inner
-        = findPage(article.pages, KTPageTypeNormalpage, static_cast<KTPageAlignmentEnum>(~0));
+        = findPage(article.pages(), KTPageTypeNormalpage, static_cast<KTPageAlignmentEnum>(~0));
     QMap<int, int> figureOfPage {
         {COVER_PAGE, 0}
     };
-    for (const KTBarcodeDefinition &barcode : article.barcodes) {
+    for (const KTBarcodeDefinition &barcode : article.barcodes()) {
         const int pageNr = barcode.pageNr();
         const auto note = [&](const QString &reason) {
             model->notes.append(QStringLiteral("Barcode on page %1: %2").arg(pageNr).arg(reason));
@@ -215,7 +214,8 @@ void addBarcodes(KTPreviewModel *model, const KTArticleModel &article, int pages
             figure.barcodes.append({rect, pageNr, barcode.image()});
         else
             note(QStringLiteral("outside, at %1, %2")
-                     .arg(millimeters(barcode.rect().left()), millimeters(barcode.rect().top())));
+                     .arg(KTMillimeterText::text(barcode.rect().left()),
+                          KTMillimeterText::text(barcode.rect().top())));
     }
     for (const KTPreviewModel::Figure &figure : qAsConst(model->figures)) {
         if (&figure != &model->figures.constFirst())
@@ -228,45 +228,46 @@ void addBarcodes(KTPreviewModel *model, const KTArticleModel &article, int pages
 
 } // namespace
 
-std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticleModel &article, int pages,
-                                                     QString *objection)
+std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, int pages, QString *objection)
 {
-    *objection = article.pages.isEmpty() ? QStringLiteral("has no page sizes") : QString();
-    for (const Page &page : article.pages) {
+    *objection = article.pages().isEmpty() ? QStringLiteral("has no page sizes") : QString();
+    for (const Page &page : article.pages()) {
         if (objection->isEmpty())
             *objection = objectionTo(page);
     }
     if (!objection->isEmpty())
         return std::nullopt;
 
-    const auto [back, front] = coverOf(article.pages);
+    const auto [back, front] = coverOf(article.pages());
     const bool isSpread = back->context.alignment().matches(KTPageAlignmentLeft)
         && front->context.alignment().matches(KTPageAlignmentRight);
     KTPreviewModel model;
     if (isSpread) {
-        const double width = article.hasSpine
-            ? article.spine.spineWidth(static_cast<unsigned int>(std::max(0, pages))).layoutUnits()
+        const double width = article.hasSpine()
+            ? article.spine().spineWidth(static_cast<unsigned int>(std::max(0, pages))).layoutUnits()
             : 0.0;
         if (!isDrawable(width, 0.0)) {
             *objection = QStringLiteral("has a spine of %1 mm; a preview shows 0.0 to %2 mm")
-                             .arg(millimeters(width), millimeters(MAXIMUM_LENGTH));
+                             .arg(KTMillimeterText::text(width), KTMillimeterText::text(MAXIMUM_LENGTH));
             return std::nullopt;
         }
         model.figures.append(spreadOf(*back, *front, width));
-        const double additional = article.hasSpine ? article.spine.additionalSpineWidth().layoutUnits() : 0.0;
+        const double additional
+            = article.hasSpine() ? article.spine().additionalSpineWidth().layoutUnits() : 0.0;
         if (additional > 0.0 && additional * 2.0 < width)
             model.figures[0].additionalSpineWidth = additional;
     } else {
         model.figures.append(figureOf(*front, front->context.pageType().encode()));
     }
 
-    model.title = QStringLiteral("%1  %2").arg(article.articleId.toString(), visible(article.name)).trimmed();
+    model.title
+        = QStringLiteral("%1  %2").arg(article.articleId().toString(), visible(article.name())).trimmed();
     model.subtitle = QStringLiteral("%1 %2, %3")
                          .arg(pages)
                          .arg(pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"))
                          .arg(front->context.pageType().encode());
     addSizes(&model, *front, pages);
     addBarcodes(&model, article, pages);
-    model.optionGroups = groupsOf(article.options);
+    model.optionGroups = groupsOf(article.options());
     return model;
 }

@@ -9,7 +9,7 @@
 
 #include <optional>
 
-struct KTArticleModel;
+class KTArticle;
 
 /** What a preview draws of an article at one page count; lengths in layout units (0.1 mm), y downwards. */
 struct KTPreviewModel
@@ -64,7 +64,7 @@ struct KTPreviewModel
      * usable area, on a cover from that of its left side. Nothing when the article has no sizes, or such that
      * cannot be drawn; the objection then says so, as a predicate of the article.
      */
-    static std::optional<KTPreviewModel> create(const KTArticleModel &article, int pages, QString *objection);
+    static std::optional<KTPreviewModel> create(const KTArticle &article, int pages, QString *objection);
 
     QString title;
     QString subtitle;

@@ -1,6 +1,5 @@
 #include "KTShowCommand.h"
 
-#include "KTArticleModel.h"
 #include "KTArticleReport.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
@@ -59,15 +58,15 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     bool isFirst = true;
     const auto failure
         = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &article) {
-              if (isOneArticle && (!isFirst || KTArticleId::findId(article.element()) != wanted->constLast()))
+              if (isOneArticle && (!isFirst || KTArticleId::findId(article.root()) != wanted->constLast()))
                   return;
-              const KTArticleModel model(article.element());
+              const KTArticle content(article);
               if (isJson)
                   spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
-                              + jsonText(KTArticleReport::toJSON(model, *pageCounts)));
+                              + jsonText(KTArticleReport::toJSON(content, *pageCounts)));
               else
                   spool.write((isFirst ? QString() : QStringLiteral("\n"))
-                              + KTArticleReport::toText(model, *pageCounts));
+                              + KTArticleReport::toText(content, *pageCounts));
               isFirst = false;
           });
     if (failure)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ktcatalogue_export.h"
+
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -46,6 +48,7 @@ enum class KTRule {
     BarcodeDropped,
     BarcodeSamePlace,
     BarcodeImage,
+    COUNT,
 };
 
 struct KTRuleRow
@@ -61,22 +64,22 @@ struct KTRuleRow
 
 namespace KTCheckRules {
 
-constexpr int COUNT = static_cast<int>(KTRule::BarcodeImage) + 1;
+constexpr int COUNT = static_cast<int>(KTRule::COUNT);
 
-const KTRuleRow &row(KTRule rule);
+KTCATALOGUE_EXPORT const KTRuleRow &row(KTRule rule);
 /** The row at the index, which is the rule's number. */
-const KTRuleRow &at(int index);
+KTCATALOGUE_EXPORT const KTRuleRow &at(int index);
 /** Null for a name that no rule has. */
-const KTRuleRow *find(const QString &name);
-QStringList names();
-QString name(KTRule rule);
+KTCATALOGUE_EXPORT const KTRuleRow *find(const QString &name);
+KTCATALOGUE_EXPORT QStringList names();
+KTCATALOGUE_EXPORT QString name(KTRule rule);
 /** "error", "warning" or "hint". */
-QString name(KTSeverity severity);
+KTCATALOGUE_EXPORT QString name(KTSeverity severity);
 
 } // namespace KTCheckRules
 
 /** How severe the user takes each rule. */
-class KTRuleSeverities
+class KTCATALOGUE_EXPORT KTRuleSeverities
 {
 public:
     void ignore(KTRule rule) { myIgnored.insert(static_cast<int>(rule)); }

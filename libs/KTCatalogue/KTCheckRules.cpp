@@ -16,7 +16,7 @@ constexpr KTRuleRow RULES[] = {
          "the file cannot be opened or read to its end",
          "The application has no articles from it. Look at the file's name and its permissions."),
     rule(KTRule::NotWellFormed, "not-well-formed", KTSeverity::Error,
-         "the file is no catalogue in well-formed XML in UTF-8",
+         "the file is no catalogue in well-formed XML",
          "The application refuses the whole file, also the articles before the place. What the checker "
          "found before it is still reported; what follows it is not looked at."),
     rule(KTRule::LimitExceeded, "limit-exceeded", KTSeverity::Error, "the file exceeds a limit of the format",

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KTCatalogueScanner.h"
 #include "KTCheckRules.h"
+#include "KTFilePosition.h"
 
 #include <QString>
 
@@ -10,9 +10,10 @@ struct KTFinding
 {
     KTRule rule;
     KTSeverity severity;
+    /** The name that the checker was given. */
     QString file;
-    /** Line and column 0 where the file as a whole is meant. */
-    KTFilePosition position;
+    /** The start tag, or the attribute with its value; line and column 0 where the whole file is meant. */
+    KTFileRange range;
     /** 0 outside of articles and in one without a number. */
     int articleId;
     /** Empty where the file itself is meant. */

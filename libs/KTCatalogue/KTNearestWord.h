@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ktcatalogue_export.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -8,6 +10,6 @@ namespace KTNearestWord {
 
 /** The candidate with the fewest edits (letters added, dropped or changed, case ignored); null beyond the
  * maximum. */
-QString find(const QString &word, const QStringList &candidates, int maximumEdits = 2);
+KTCATALOGUE_EXPORT QString find(const QString &word, const QStringList &candidates, int maximumEdits = 2);
 
 } // namespace KTNearestWord

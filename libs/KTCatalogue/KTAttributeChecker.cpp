@@ -1,0 +1,201 @@
+#include "KTAttributeChecker.h"
+
+#include "KTCheckText.h"
+
+#include <KTDistance.h>
+#include <KTDistanceUnit.h>
+#include <KTXMLParser.h>
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using KTCheckText::defaultOf;
+using KTCheckText::quoted;
+using KTCheckText::raw;
+using KTCheckText::suggestion;
+
+namespace {
+
+const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
+// Nine digits always fit into an int.
+constexpr int SAFE_DIGITS = 9;
+// Enough for the texts that a catalogue repeats, and no more memory than a small one takes.
+constexpr int MAX_KEPT_ANSWERS = 1000;
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+bool isPlainInteger(QStringView text)
+{
+    return !text.isEmpty() && text.size() <= SAFE_DIGITS && std::all_of(text.begin(), text.end(), &isDigit);
+}
+
+/** A few digits, among them at most one decimal point. */
+bool isPlainNumber(QStringView text)
+{
+    if (text.isEmpty() || text.size() > SAFE_DIGITS || !isDigit(text.front()) || !isDigit(text.back()))
+        return false;
+    return std::count(text.begin(), text.end(), QChar(u'.')) <= 1
+        && std::all_of(text.begin(), text.end(),
+                       [](QChar character) { return character == u'.' || isDigit(character); });
+}
+
+bool isLength(QStringView text, const KTDistanceUnit &unit)
+{
+    const std::optional<double> number = KTXMLParser::parseDouble(text);
+    return number && std::isfinite(unit.units2Pixels(*number));
+}
+
+/** What is wrong with the number, in words. */
+QString numberFault(const QString &text, KTAttributeType type)
+{
+    bool ok = false;
+    const double number = text.toDouble(&ok);
+    if (std::isnan(number) || (ok && std::isinf(number)))
+        return QStringLiteral("is not finite");
+    if (std::isinf(number))
+        return QStringLiteral("is out of range");
+    // A number that is finite itself may not be so in layout units.
+    if (type == KTAttributeType::Length)
+        return ok ? QStringLiteral("is out of range") : QStringLiteral("is no number");
+    return ok && number == std::floor(number) && std::abs(number) > std::numeric_limits<int>::max()
+        ? QStringLiteral("is out of range")
+        : QStringLiteral("is no whole number");
+}
+
+void reportNumber(KTElementCursor *cursor, int attribute, const KTAttributeRow &row,
+                  const QString &defaultText)
+{
+    const QString text = cursor->valueOf(attribute).toString();
+    QString message = QStringLiteral("%1 %2; the application takes %3")
+                          .arg(quoted(text), numberFault(text, row.type), defaultText);
+    const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
+    if (row.type == KTAttributeType::Length && withPoint != text && KTXMLParser::parseDouble(withPoint))
+        message += QStringLiteral("; did you mean '%1'?").arg(withPoint);
+    cursor->report(row.id == KTAttributeId::ArticleShippingGroup ? KTRule::ShippingGroup
+                                                                 : KTRule::UnreadableNumber,
+                   message, attribute);
+}
+
+void reportUnknown(KTElementCursor *cursor, int attribute)
+{
+    const QString name = cursor->nameOf(attribute).toString();
+    // Declarations and attributes of XML itself are for everyone.
+    if (std::any_of(std::begin(XML_PREFIXES), std::end(XML_PREFIXES),
+                    [&name](QLatin1String prefix) { return name.startsWith(prefix); }))
+        return;
+    cursor->report(KTRule::UnknownAttribute,
+                   QStringLiteral("nothing reads %1 of '%2'; the application behaves as if it were not there")
+                           .arg(quoted(name), KTCatalogueFormat::elementName(cursor->kind()))
+                       + suggestion(name, KTCatalogueFormat::attributeNames(cursor->kind())),
+                   attribute);
+}
+
+/** What the classification makes of entries that are no keywords; empty when there are none. */
+QString keywordMessage(const KTAttributeRow &row, const QString &text)
+{
+    // A text without any entry stands for the default, as a missing one does.
+    if (text.trimmed().isEmpty())
+        return QString();
+    const KTClassification &classification = KTClassification::of(row.classification);
+    const QStringList unknown = classification.unknownEntries(text);
+    if (unknown.isEmpty())
+        return QString();
+    const QString &word = unknown.constFirst();
+    QString message = word.isEmpty() ? QStringLiteral("an empty entry in %1").arg(quoted(text))
+                                     : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), row.name);
+    if (unknown.size() > 1)
+        message += unknown.size() == 2 ? QStringLiteral(" (nor is 1 more)")
+                                       : QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
+    const QString readAs = classification.unknownReadAs();
+    message += readAs.isEmpty()
+        ? QStringLiteral("; the application reads nothing from it")
+        : QStringLiteral("; the application reads it as the default, '%1'").arg(readAs);
+    return message + suggestion(word, classification.readableKeywords());
+}
+
+} // namespace
+
+void KTAttributeChecker::check(KTElementCursor *cursor, const KTPageCountOrganization &pageCounts)
+{
+    for (int i = cursor->firstAttribute(); i < cursor->endOfAttributes(); ++i) {
+        const KTAttributeRow *const row = KTCatalogueFormat::attribute(cursor->kind(), cursor->nameOf(i));
+        if (row)
+            checkRead(cursor, i, *row, pageCounts);
+        else
+            reportUnknown(cursor, i);
+    }
+}
+
+void KTAttributeChecker::checkRead(KTElementCursor *cursor, int attribute, const KTAttributeRow &row,
+                                   const KTPageCountOrganization &pageCounts)
+{
+    const QStringView text = cursor->valueOf(attribute);
+    switch (row.type) {
+    case KTAttributeType::Text:
+        break;
+    case KTAttributeType::Keywords:
+        checkKeywords(cursor, attribute, row);
+        break;
+    case KTAttributeType::Integer:
+        if (!isPlainInteger(text) && !KTXMLParser::parseInt(text)) {
+            const bool isPageCount = std::holds_alternative<std::monostate>(row.defaultValue);
+            reportNumber(cursor, attribute, row,
+                         isPageCount ? QStringLiteral("the default: ") + KTCheckText::text(pageCounts)
+                                     : defaultOf(row));
+        }
+        break;
+    case KTAttributeType::Length:
+        if (!isPlainNumber(text) && !isLength(text, cursor->unit()))
+            reportNumber(cursor, attribute, row, defaultOf(row));
+        break;
+    case KTAttributeType::Boolean:
+        if (!KTXMLParser::parseBool(text)) {
+            cursor->report(KTRule::UnreadableBoolean,
+                           QStringLiteral("%1 is neither true nor false; the application takes %2")
+                               .arg(quoted(text.toString()), defaultOf(row)),
+                           attribute);
+        }
+        break;
+    case KTAttributeType::Unit:
+        if (!KTXMLParser::readUnit(cursor->element()).hasExactlyOneBit()) {
+            cursor->report(
+                KTRule::UnknownUnit,
+                QStringLiteral("%1 is no unit; the application takes the numbers as layout units of 0.1 mm")
+                        .arg(quoted(text.toString()))
+                    + suggestion(text.toString(),
+                                 KTClassification::of(row.classification).readableKeywords()),
+                attribute);
+        }
+        break;
+    case KTAttributeType::Color:
+        if (!text.isEmpty() && !QColor::isValidColor(raw(text))) {
+            cursor->report(KTRule::UnknownColor,
+                           QStringLiteral("%1 is no colour; the application takes %2")
+                                   .arg(quoted(text.toString()), defaultOf(row))
+                               + suggestion(text.toString(), QColor::colorNames()),
+                           attribute);
+        }
+        break;
+    }
+}
+
+void KTAttributeChecker::checkKeywords(KTElementCursor *cursor, int attribute, const KTAttributeRow &row)
+{
+    const QStringView text = cursor->valueOf(attribute);
+    const auto known = myKeywordMessages.constFind({&row, raw(text)});
+    const QString message
+        = known == myKeywordMessages.constEnd() ? keywordMessage(row, text.toString()) : *known;
+    if (known == myKeywordMessages.constEnd() && text.size() <= KTCheckText::MAX_WORD_LENGTH) {
+        if (myKeywordMessages.size() >= MAX_KEPT_ANSWERS)
+            myKeywordMessages.clear();
+        myKeywordMessages.insert({&row, text.toString()}, message);
+    }
+    if (!message.isEmpty())
+        cursor->report(KTRule::UnknownKeyword, message, attribute);
+}

@@ -1,0 +1,28 @@
+#include "KTCatalogueReader.h"
+
+#include "KTCatalogueReaderImpl.h"
+
+KTCatalogueReader::KTCatalogueReader(QIODevice *device)
+    : myImpl(std::make_unique<KTCatalogueReaderImpl>(device))
+{
+}
+
+KTCatalogueReader::~KTCatalogueReader() = default;
+
+KTCatalogueReader::Item KTCatalogueReader::next(KTCatalogueArticle *article)
+{
+    return myImpl->next(article);
+}
+
+KTCatalogueReader::Item KTCatalogueReader::nextArticle(KTCatalogueArticle *article)
+{
+    Item item = next(article);
+    while (item == Item::Root || item == Item::Other)
+        item = next(article);
+    return item;
+}
+
+KTCatalogueError KTCatalogueReader::error() const
+{
+    return myImpl->error();
+}

@@ -1,0 +1,460 @@
+#include "KTCatalogueReaderImpl.h"
+
+#include "KTStartTag.h"
+#include "KTXMLError.h"
+
+#include <QIODevice>
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace {
+
+using Kind = KTCatalogueErrorKind;
+
+constexpr std::string_view CATALOGUE_ELEMENT = "catalogue";
+constexpr std::string_view ARTICLE_ELEMENT = "article";
+constexpr int ROOT_DEPTH = 1;
+constexpr int ARTICLE_DEPTH = 2;
+constexpr int CHUNK_SIZE = 16 * 1024;
+/** A tag, comment or instruction is kept whole until its end. */
+constexpr int MAX_MARKUP_LENGTH = 16 * 1024 * 1024;
+// The parser tells names and values in turn.
+constexpr int ATTRIBUTE_STRIDE = 2;
+
+QString limitText(const QString &what)
+{
+    return QStringLiteral("limit exceeded: ") + what;
+}
+
+QString valueLimit()
+{
+    return limitText(
+        QStringLiteral("a value of more than %1 KiB").arg(KTCatalogueReader::MAX_VALUE_LENGTH / 1024));
+}
+
+/** True when the value that is read is not the one that is written. */
+bool needsDecoding(const char *begin, const char *end)
+{
+    return std::any_of(begin, end,
+                       [](char byte) { return byte == '&' || byte == '\t' || byte == '\n' || byte == '\r'; });
+}
+
+/** Turns places in a text, which count bytes of UTF-8, into such that count units of UTF-16. */
+class Utf16Places
+{
+public:
+    explicit Utf16Places(const QByteArray &text)
+        : myBegin(text.constData())
+        , myEnd(myBegin + text.size())
+        , myNext(nextLong(myBegin))
+    {
+    }
+
+    /** The slices come in the order of their places. */
+    void convert(KTXMLFragment::Slice *slice)
+    {
+        const int begin = unitsTo(slice->begin);
+        slice->length = unitsTo(slice->begin + slice->length) - begin;
+        slice->begin = begin;
+    }
+
+private:
+    static bool isAscii(char byte) { return (byte & 0x80) == 0; }
+
+    /** The next byte of a character that has more than one; most texts have few. */
+    const char *nextLong(const char *from) const
+    {
+        constexpr quint64 NOT_ASCII = 0x8080'8080'8080'8080;
+        for (quint64 word = 0; myEnd - from >= qint64(sizeof word); from += sizeof word) {
+            std::memcpy(&word, from, sizeof word);
+            if (word & NOT_ASCII)
+                break;
+        }
+        return std::find_if_not(from, myEnd, isAscii);
+    }
+
+    int unitsTo(int place)
+    {
+        while (myNext < myBegin + place) {
+            // Further bytes have no unit of their own; a character of four bytes has two units.
+            if ((*myNext & 0xc0) == 0x80)
+                ++mySurplus;
+            else if ((*myNext & 0xf8) == 0xf0)
+                --mySurplus;
+            myNext = nextLong(myNext + 1);
+        }
+        return place - mySurplus;
+    }
+
+    const char *myBegin;
+    const char *myEnd;
+    const char *myNext;
+    /** How many bytes there are more than units up to there. */
+    int mySurplus = 0;
+};
+
+} // namespace
+
+KTCatalogueReaderImpl::KTCatalogueReaderImpl(QIODevice *device)
+    : myDevice(device)
+    // Without namespaces, so that names are told as they stand.
+    , myParser(XML_ParserCreate("UTF-8"))
+{
+    setHandlers();
+}
+
+KTCatalogueReaderImpl::~KTCatalogueReaderImpl()
+{
+    XML_ParserFree(myParser);
+}
+
+void KTCatalogueReaderImpl::setHandlers()
+{
+    XML_SetUserData(myParser, this);
+    XML_SetElementHandler(
+        myParser,
+        [](void *context, const XML_Char *, const XML_Char **attributes) {
+            static_cast<KTCatalogueReaderImpl *>(context)->startElement(attributes);
+        },
+        [](void *context, const XML_Char *) { static_cast<KTCatalogueReaderImpl *>(context)->endElement(); });
+    XML_SetCharacterDataHandler(myParser, [](void *context, const XML_Char *, int length) {
+        static_cast<KTCatalogueReaderImpl *>(context)->addText(length);
+    });
+    XML_SetCommentHandler(myParser, [](void *context, const XML_Char *) {
+        static_cast<KTCatalogueReaderImpl *>(context)->leaveText();
+    });
+    XML_SetProcessingInstructionHandler(myParser, [](void *context, const XML_Char *, const XML_Char *) {
+        static_cast<KTCatalogueReaderImpl *>(context)->leaveText();
+    });
+    XML_SetStartDoctypeDeclHandler(
+        myParser, [](void *context, const XML_Char *, const XML_Char *, const XML_Char *, int) {
+            static_cast<KTCatalogueReaderImpl *>(context)->refuseDocumentType();
+        });
+}
+
+KTCatalogueReader::Item KTCatalogueReaderImpl::next(KTCatalogueArticle *article)
+{
+    while (myQueue.empty() && !hasFailed() && !myIsAtEnd)
+        feed();
+    if (myQueue.empty()) {
+        myIsErrorDue = hasFailed();
+        return hasFailed() ? Item::Error : Item::End;
+    }
+    const Item item = myQueue.front().item;
+    std::swap(*article, *myQueue.front().article);
+    myPool.push_back(std::move(myQueue.front().article));
+    myQueue.pop_front();
+    return item;
+}
+
+void KTCatalogueReaderImpl::feed()
+{
+    QByteArray chunk(CHUNK_SIZE, Qt::Uninitialized);
+    const qint64 length = myDevice->read(chunk.data(), chunk.size());
+    // A device at its end may say so with an error code as well; then there is nothing wrong with it.
+    const bool isLast = length == 0 || (length < 0 && myDevice->atEnd());
+    if (length < 0 && !isLast) {
+        advanceTo(myWindow.size());
+        fail(Kind::Unreadable, QStringLiteral("the file cannot be read: %1").arg(myDevice->errorString()),
+             myTracker.position());
+        return;
+    }
+    chunk.truncate(static_cast<int>(std::max<qint64>(length, 0)));
+    if (!myIsDecided) {
+        myHead += chunk;
+        if (!isLast && !KTInputDecoder::isEnough(myHead))
+            return;
+        decide();
+        chunk = std::exchange(myHead, QByteArray());
+    }
+    if (!hasFailed())
+        parse(myDecoder.decode(chunk, isLast), isLast);
+}
+
+/** Finds out the file's encoding from its first bytes. */
+void KTCatalogueReaderImpl::decide()
+{
+    myIsDecided = true;
+    KTFilePosition begin;
+    const int skipped = myDecoder.begin(myHead);
+    myHead.remove(0, skipped);
+    begin.offset = skipped;
+    myTracker = KTTextTracker(begin, myDecoder.width());
+    myTextBegin = begin;
+    if (!myDecoder.error().isEmpty())
+        fail(Kind::NotWellFormed, myDecoder.error(), begin);
+}
+
+void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
+{
+    myWindow += text;
+    const bool isBroken = !myDecoder.error().isEmpty();
+    const int unseen = myWindow.size() - myUnseen;
+    // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
+    // long markup costs no time out of proportion.
+    if (!isLast && !isBroken && unseen < myUnseen)
+        return;
+    const int begin = std::exchange(myUnseen, myWindow.size());
+    const bool isParsed = XML_Parse(myParser, bytes(begin), unseen, isLast && !isBroken) == XML_STATUS_OK;
+    if (!isParsed)
+        failAsParser();
+    else if (isBroken)
+        fail(Kind::NotWellFormed, myDecoder.error(), positionOf(myWindow.size()));
+    if (hasFailed())
+        return;
+    // Before the root element the parser is done with markup that its errors are about.
+    if (myHasRoot)
+        advanceTo(std::max(eventBegin(), place(myTrackedOffset)));
+    const int done = place(myTrackedOffset);
+    myWindow.remove(0, done);
+    myWindowOffset = myTrackedOffset;
+    myUnseen -= done;
+    checkPending();
+    myIsAtEnd = isLast;
+}
+
+/** What the parser waits for the end of must not grow beyond the limits either. */
+void KTCatalogueReaderImpl::checkPending()
+{
+    if (myWindow.size() > MAX_MARKUP_LENGTH) {
+        fail(Kind::LimitExceeded,
+             limitText(QStringLiteral("a tag, comment or instruction of more than %1 MiB")
+                           .arg(MAX_MARKUP_LENGTH / (1024 * 1024))),
+             myTracker.position());
+        return;
+    }
+    if (!myWindow.startsWith('<') || myWindow.startsWith("<!") || myWindow.startsWith("<?"))
+        return;
+    int count = 0;
+    KTStartTag::forEachAttribute(
+        bytes(0), bytes(myWindow.size()),
+        [&](const KTStartTag::Attribute &attribute) { return isWithinLimits(attribute, ++count); });
+}
+
+void KTCatalogueReaderImpl::refuseDocumentType()
+{
+    const int begin = myWindow.indexOf("<!DOCTYPE", place(myTrackedOffset));
+    fail(Kind::LimitExceeded, limitText(QStringLiteral("a catalogue has no document type declaration")),
+         positionOf(std::max(begin, 0)));
+}
+
+void KTCatalogueReaderImpl::startElement(const char **attributes)
+{
+    if (hasFailed())
+        return;
+    const int tagBegin = eventBegin();
+    const int tagEnd = eventEnd();
+    myHasRoot = true;
+    advanceTo(tagBegin);
+    const KTFilePosition position = myTracker.position();
+    const std::string_view elementName = KTStartTag::name(bytes(tagBegin + 1), bytes(tagEnd));
+    const auto nameLength = static_cast<int>(elementName.size());
+    myOpenNames.append(elementName.data(), nameLength);
+    myOpenElements.push_back({myOpenNames.size(), position.line});
+    ++myDepth;
+    if (myDepth == ROOT_DEPTH && elementName != CATALOGUE_ELEMENT) {
+        fail(Kind::NotWellFormed,
+             QStringLiteral("the root element is '%1', not '%2'")
+                 .arg(openElement(), QLatin1String(CATALOGUE_ELEMENT.data())),
+             position);
+    } else if (myDepth > KTCatalogueReader::MAX_DEPTH) {
+        fail(Kind::LimitExceeded,
+             limitText(QStringLiteral("more than %1 levels of elements").arg(KTCatalogueReader::MAX_DEPTH)),
+             position);
+    } else if (nameLength > KTCatalogueReader::MAX_VALUE_LENGTH) {
+        fail(Kind::LimitExceeded, valueLimit(), position);
+    }
+    if (hasFailed())
+        return;
+    if (myDepth <= ARTICLE_DEPTH)
+        beginItem();
+    appendElement(tagBegin, tagEnd, nameLength, attributes);
+    leaveText();
+    if (!hasFailed() && myDepth <= ARTICLE_DEPTH
+        && (myDepth == ROOT_DEPTH || elementName != ARTICLE_ELEMENT)) {
+        myArticle->myTagPlaces.last().elementEnd = myTracker.position();
+        finishItem(myDepth == ROOT_DEPTH ? Item::Root : Item::Other);
+    }
+}
+
+/** Takes an article out of the pool to be filled. */
+void KTCatalogueReaderImpl::beginItem()
+{
+    if (myPool.empty()) {
+        myArticle = std::make_unique<KTCatalogueArticle>();
+    } else {
+        myArticle = std::move(myPool.back());
+        myPool.pop_back();
+    }
+    myArticle->myFragment.clear();
+    myArticle->myTags.resize(0);
+    myArticle->myTagPlaces.resize(0);
+    myArticle->myAttributePlaces.resize(0);
+    myArticle->myWidth = myDecoder.width();
+    myDecodedValues.clear();
+    myElement = -1;
+}
+
+/** Appends the element to the item, if there is one; its limits hold everywhere. */
+void KTCatalogueReaderImpl::appendElement(int tagBegin, int tagEnd, int nameLength, const char **attributes)
+{
+    KTCatalogueArticle *const item = myArticle.get();
+    const int offset = item ? item->myTags.size() : 0;
+    const char *const tag = bytes(tagBegin);
+    const auto inTags = [=](const char *byte) { return offset + static_cast<int>(byte - tag); };
+    if (item) {
+        KTXMLFragment &fragment = item->myFragment;
+        fragment.elements.append({
+            {offset + 1, nameLength},
+            myElement, fragment.attributes.size(), 0, 0
+        });
+        item->myTags.append(tag, tagEnd - tagBegin);
+        item->myTagPlaces.append(KTCatalogueArticle::Tag {offset, offset + tagEnd - tagBegin,
+                                                          myTracker.position(), KTFilePosition()});
+        myElement = fragment.elements.size() - 1;
+    }
+    int count = 0;
+    KTStartTag::forEachAttribute(tag, bytes(tagEnd), [&](const KTStartTag::Attribute &attribute) {
+        if (!isWithinLimits(attribute, ++count))
+            return false;
+        if (item) {
+            const Place place {inTags(attribute.nameBegin), inTags(attribute.nameEnd),
+                               inTags(attribute.valueBegin), inTags(attribute.valueEnd)};
+            if (needsDecoding(attribute.valueBegin, attribute.valueEnd)) {
+                myDecodedValues.emplace_back(item->myAttributePlaces.size(), attributes[1]);
+            }
+            item->myAttributePlaces.append(place);
+            item->myFragment.attributes.append(KTXMLFragment::Attribute {
+                {place.nameBegin,  place.nameEnd - place.nameBegin  },
+                {place.valueBegin, place.valueEnd - place.valueBegin}
+            });
+        }
+        attributes += ATTRIBUTE_STRIDE;
+        return true;
+    });
+    if (item)
+        item->myFragment.elements.last().attributeCount = count;
+}
+
+void KTCatalogueReaderImpl::endElement()
+{
+    if (hasFailed())
+        return;
+    leaveText();
+    --myDepth;
+    myOpenElements.pop_back();
+    myOpenNames.truncate(myOpenElements.empty() ? 0 : myOpenElements.back().nameEnd);
+    if (!myArticle)
+        return;
+    KTXMLFragment::Element &element = myArticle->myFragment.elements[myElement];
+    element.end = myArticle->myFragment.elements.size();
+    myArticle->myTagPlaces[myElement].elementEnd = myTracker.position();
+    myElement = element.parent;
+    if (myElement < 0)
+        finishItem(Item::Article);
+}
+
+/** Turns the collected tags into the item's text. */
+void KTCatalogueReaderImpl::finishItem(Item item)
+{
+    KTXMLFragment &fragment = myArticle->myFragment;
+    fragment.elements.first().end = fragment.elements.size();
+    fragment.text = QString::fromUtf8(myArticle->myTags);
+    if (fragment.text.size() != myArticle->myTags.size()) {
+        Utf16Places places(myArticle->myTags);
+        KTXMLFragment::Attribute *attribute = fragment.attributes.data();
+        for (KTXMLFragment::Element &element : fragment.elements) {
+            places.convert(&element.name);
+            for (const auto *const end = attribute + element.attributeCount; attribute != end; ++attribute) {
+                places.convert(&attribute->name);
+                places.convert(&attribute->value);
+            }
+        }
+    }
+    for (const auto &[index, value] : myDecodedValues) {
+        const QString decoded = QString::fromUtf8(value);
+        fragment.attributes[index].value = {fragment.text.size(), decoded.size()};
+        fragment.text += decoded;
+    }
+    myQueue.push_back({item, std::move(myArticle)});
+}
+
+void KTCatalogueReaderImpl::addText(int length)
+{
+    myTextLength += length;
+    if (myTextLength > KTCatalogueReader::MAX_VALUE_LENGTH)
+        fail(Kind::LimitExceeded, valueLimit(), myTextBegin);
+}
+
+/** Markup ends a text, and the next one begins behind it. */
+void KTCatalogueReaderImpl::leaveText()
+{
+    advanceTo(eventEnd());
+    myTextLength = 0;
+    myTextBegin = myTracker.position();
+}
+
+/** Takes over the parser's error, unless it is only that it was stopped. */
+void KTCatalogueReaderImpl::failAsParser()
+{
+    const XML_Error code = XML_GetErrorCode(myParser);
+    const int place = std::clamp(eventBegin(), this->place(myTrackedOffset), myWindow.size());
+    const KTXMLError::Text text {bytes(0), bytes(place), bytes(myWindow.size()), myWindowOffset == 0};
+    const KTXMLError::Answer answer = KTXMLError::explain(code, text, openElement(), openLine());
+    fail(Kind::NotWellFormed, answer.words, positionOf(static_cast<int>(answer.place - bytes(0))));
+}
+
+/** Moves the tracker on to the place in the window. */
+void KTCatalogueReaderImpl::advanceTo(int place)
+{
+    const int from = this->place(myTrackedOffset);
+    myTracker.advance(bytes(from), bytes(place));
+    myTrackedOffset += place - from;
+}
+
+/** The position of a place that the tracker has not passed yet. */
+KTFilePosition KTCatalogueReaderImpl::positionOf(int place) const
+{
+    KTTextTracker tracker = myTracker;
+    const int from = this->place(myTrackedOffset);
+    tracker.advance(bytes(from), bytes(std::max(from, place)));
+    return tracker.position();
+}
+
+QString KTCatalogueReaderImpl::openElement() const
+{
+    const std::size_t count = myOpenElements.size();
+    const int begin = count < 2 ? 0 : myOpenElements.at(count - 2).nameEnd;
+    return QString::fromUtf8(myOpenNames.mid(begin));
+}
+
+void KTCatalogueReaderImpl::fail(KTCatalogueErrorKind kind, const QString &text,
+                                 const KTFilePosition &position)
+{
+    if (hasFailed())
+        return;
+    myError = {kind, text, position};
+    XML_StopParser(myParser, XML_FALSE);
+}
+
+/** The attribute is the one of this number in its tag; one beyond a limit is refused. */
+bool KTCatalogueReaderImpl::isWithinLimits(const KTStartTag::Attribute &attribute, int number)
+{
+    const auto fails = [this](const QString &text, const char *place) {
+        fail(Kind::LimitExceeded, text, positionOf(static_cast<int>(place - bytes(0))));
+        return false;
+    };
+    if (number > KTCatalogueReader::MAX_ATTRIBUTES) {
+        return fails(limitText(QStringLiteral("more than %1 attributes in one element")
+                                   .arg(KTCatalogueReader::MAX_ATTRIBUTES)),
+                     attribute.nameBegin);
+    }
+    if (attribute.nameEnd - attribute.nameBegin > KTCatalogueReader::MAX_VALUE_LENGTH)
+        return fails(valueLimit(), attribute.nameBegin);
+    if (attribute.valueEnd - attribute.valueBegin > KTCatalogueReader::MAX_VALUE_LENGTH)
+        return fails(valueLimit(), attribute.valueBegin - 1);
+    return true;
+}
