@@ -37,6 +37,18 @@ void forEachArticle(const QByteArray &catalogue, FUNCTION function)
         function(article);
 }
 
+/** Looks for an article that is not there, so that all of them are asked. */
+void findNone(const QByteArray &catalogue)
+{
+    QBuffer buffer;
+    buffer.setData(catalogue);
+    buffer.open(QIODevice::ReadOnly);
+    KTCatalogueReader reader(&buffer);
+    reader.setFilter([](const KTXMLElement &article) { return KTArticleId::findId(article).id() == -1; });
+    KTCatalogueArticle article;
+    while (reader.nextArticle(&article) == KTCatalogueReader::Item::Article) { }
+}
+
 /** Finds nothing, which is what takes the longest. */
 void check(const QByteArray &catalogue)
 {
@@ -90,11 +102,7 @@ void KTBenchmark::addCatalogue()
         forEachArticle(catalogue,
                        [](const KTCatalogueArticle &article) { benchmark::DoNotOptimize(&article); });
     });
-    addPass("find one", count, [] {
-        forEachArticle(catalogue, [](const KTCatalogueArticle &article) {
-            benchmark::DoNotOptimize(KTArticleId::findId(article.root()).id());
-        });
-    });
+    addPass("find one", count, [] { findNone(catalogue); });
     addPass("read all", count, [] {
         forEachArticle(catalogue, [](const KTCatalogueArticle &article) {
             benchmark::DoNotOptimize(KTArticle(article));

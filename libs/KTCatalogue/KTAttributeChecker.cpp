@@ -124,8 +124,7 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
 void KTAttributeChecker::check(KTElementCursor *cursor, const KTPageCountOrganization &pageCounts)
 {
     for (int i = cursor->firstAttribute(); i < cursor->endOfAttributes(); ++i) {
-        const KTAttributeRow *const row = KTCatalogueFormat::attribute(cursor->kind(), cursor->nameOf(i));
-        if (row)
+        if (const KTAttributeRow *const row = cursor->rowOf(i))
             checkRead(cursor, i, *row, pageCounts);
         else
             reportUnknown(cursor, i);

@@ -239,9 +239,16 @@ const KTAttributeRow *KTCatalogueFormat::attribute(Classification classification
     return row == ATTRIBUTES.end() ? nullptr : row;
 }
 
-QString KTCatalogueFormat::attributeName(Id id)
+QString KTCatalogueFormat::attributeName(KTAttributeId id)
 {
-    return attribute(id).name.toString();
+    // Made once, because the readers ask for names as texts again and again.
+    static const auto *const myNames = [] {
+        auto *const names = new std::array<QString, ATTRIBUTE_COUNT>;
+        for (const KTAttributeRow &row : attributes())
+            (*names)[static_cast<std::size_t>(row.id)] = row.name.toString();
+        return names;
+    }();
+    return myNames->at(static_cast<std::size_t>(id));
 }
 
 QStringList KTCatalogueFormat::attributeNames(Kind element)

@@ -9,6 +9,11 @@ KTCatalogueReader::KTCatalogueReader(QIODevice *device)
 
 KTCatalogueReader::~KTCatalogueReader() = default;
 
+void KTCatalogueReader::setFilter(const Filter &isWanted)
+{
+    myImpl->setFilter(isWanted);
+}
+
 KTCatalogueReader::Item KTCatalogueReader::next(KTCatalogueArticle *article)
 {
     return myImpl->next(article);

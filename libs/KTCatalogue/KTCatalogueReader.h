@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class KTCatalogueReaderImpl;
@@ -64,6 +65,13 @@ public:
     /** Reads from the open device, which it does not own. */
     explicit KTCatalogueReader(QIODevice *device);
     ~KTCatalogueReader();
+
+    using Filter = std::function<bool(const KTXMLElement &article)>;
+    /**
+     * Of the articles only those are handed out whose start tag the function takes; the others must be
+     * well-formed as well. To be called before anything is read.
+     */
+    void setFilter(const Filter &isWanted);
 
     /**
      * Reads the next item. For an article, and for a start tag as an element without children, the argument

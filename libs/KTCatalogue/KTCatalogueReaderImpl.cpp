@@ -96,6 +96,29 @@ private:
     int mySurplus = 0;
 };
 
+/** Gives the fragment its text, the tags in UTF-8 that its slices are places in, and the values beside it. */
+void setText(KTXMLFragment *fragment, const QByteArray &tags,
+             const std::vector<std::pair<int, QByteArray>> &decodedValues)
+{
+    fragment->text = QString::fromUtf8(tags);
+    if (fragment->text.size() != tags.size()) {
+        Utf16Places places(tags);
+        KTXMLFragment::Attribute *attribute = fragment->attributes.data();
+        for (KTXMLFragment::Element &element : fragment->elements) {
+            places.convert(&element.name);
+            for (const auto *const end = attribute + element.attributeCount; attribute != end; ++attribute) {
+                places.convert(&attribute->name);
+                places.convert(&attribute->value);
+            }
+        }
+    }
+    for (const auto &[index, value] : decodedValues) {
+        const QString decoded = QString::fromUtf8(value);
+        fragment->attributes[index].value = {fragment->text.size(), decoded.size()};
+        fragment->text += decoded;
+    }
+}
+
 } // namespace
 
 KTCatalogueReaderImpl::KTCatalogueReaderImpl(QIODevice *device)
@@ -228,10 +251,16 @@ void KTCatalogueReaderImpl::checkPending()
     }
     if (!myWindow.startsWith('<') || myWindow.startsWith("<!") || myWindow.startsWith("<?"))
         return;
+    checkLimits(0, myWindow.size());
+}
+
+/** Refuses a tag, or the beginning of one, with too many attributes or too long values. */
+void KTCatalogueReaderImpl::checkLimits(int begin, int end)
+{
     int count = 0;
-    KTStartTag::forEachAttribute(
-        bytes(0), bytes(myWindow.size()),
-        [&](const KTStartTag::Attribute &attribute) { return isWithinLimits(attribute, ++count); });
+    KTStartTag::forEachAttribute(bytes(begin), bytes(end), [&](const KTStartTag::Attribute &attribute) {
+        return isWithinLimits(attribute, ++count);
+    });
 }
 
 void KTCatalogueReaderImpl::refuseDocumentType()
@@ -266,17 +295,25 @@ void KTCatalogueReaderImpl::startElement(const char **attributes)
              position);
     } else if (nameLength > KTCatalogueReader::MAX_VALUE_LENGTH) {
         fail(Kind::LimitExceeded, valueLimit(), position);
+    } else if (tagEnd - tagBegin > KTCatalogueReader::MAX_VALUE_LENGTH
+               || XML_GetSpecifiedAttributeCount(myParser)
+                   > ATTRIBUTE_STRIDE * KTCatalogueReader::MAX_ATTRIBUTES) {
+        checkLimits(tagBegin, tagEnd);
     }
     if (hasFailed())
         return;
     if (myDepth <= ARTICLE_DEPTH)
         beginItem();
-    appendElement(tagBegin, tagEnd, nameLength, attributes);
+    if (myArticle)
+        appendElement(tagBegin, tagEnd, nameLength, attributes);
     leaveText();
-    if (!hasFailed() && myDepth <= ARTICLE_DEPTH
-        && (myDepth == ROOT_DEPTH || elementName != ARTICLE_ELEMENT)) {
+    if (myDepth > ARTICLE_DEPTH)
+        return;
+    if (myDepth == ROOT_DEPTH || elementName != ARTICLE_ELEMENT) {
         myArticle->myTagPlaces.last().elementEnd = myTracker.position();
         finishItem(myDepth == ROOT_DEPTH ? Item::Root : Item::Other);
+    } else if (!isWanted()) {
+        myPool.push_back(std::move(myArticle));
     }
 }
 
@@ -298,45 +335,34 @@ void KTCatalogueReaderImpl::beginItem()
     myElement = -1;
 }
 
-/** Appends the element to the item, if there is one; its limits hold everywhere. */
+/** Appends the element with its attributes to the item. */
 void KTCatalogueReaderImpl::appendElement(int tagBegin, int tagEnd, int nameLength, const char **attributes)
 {
-    KTCatalogueArticle *const item = myArticle.get();
-    const int offset = item ? item->myTags.size() : 0;
+    KTXMLFragment &fragment = myArticle->myFragment;
+    const int offset = myArticle->myTags.size();
     const char *const tag = bytes(tagBegin);
     const auto inTags = [=](const char *byte) { return offset + static_cast<int>(byte - tag); };
-    if (item) {
-        KTXMLFragment &fragment = item->myFragment;
-        fragment.elements.append({
-            {offset + 1, nameLength},
-            myElement, fragment.attributes.size(), 0, 0
-        });
-        item->myTags.append(tag, tagEnd - tagBegin);
-        item->myTagPlaces.append(KTCatalogueArticle::Tag {offset, offset + tagEnd - tagBegin,
-                                                          myTracker.position(), KTFilePosition()});
-        myElement = fragment.elements.size() - 1;
-    }
-    int count = 0;
+    const int firstAttribute = fragment.attributes.size();
+    myArticle->myTags.append(tag, tagEnd - tagBegin);
+    myArticle->myTagPlaces.append(
+        KTCatalogueArticle::Tag {offset, offset + tagEnd - tagBegin, myTracker.position(), KTFilePosition()});
     KTStartTag::forEachAttribute(tag, bytes(tagEnd), [&](const KTStartTag::Attribute &attribute) {
-        if (!isWithinLimits(attribute, ++count))
-            return false;
-        if (item) {
-            const Place place {inTags(attribute.nameBegin), inTags(attribute.nameEnd),
-                               inTags(attribute.valueBegin), inTags(attribute.valueEnd)};
-            if (needsDecoding(attribute.valueBegin, attribute.valueEnd)) {
-                myDecodedValues.emplace_back(item->myAttributePlaces.size(), attributes[1]);
-            }
-            item->myAttributePlaces.append(place);
-            item->myFragment.attributes.append(KTXMLFragment::Attribute {
-                {place.nameBegin,  place.nameEnd - place.nameBegin  },
-                {place.valueBegin, place.valueEnd - place.valueBegin}
-            });
-        }
+        const Place place {inTags(attribute.nameBegin), inTags(attribute.nameEnd),
+                           inTags(attribute.valueBegin), inTags(attribute.valueEnd)};
+        if (needsDecoding(attribute.valueBegin, attribute.valueEnd))
+            myDecodedValues.emplace_back(myArticle->myAttributePlaces.size(), attributes[1]);
+        myArticle->myAttributePlaces.append(place);
+        fragment.attributes.append(KTXMLFragment::Attribute {
+            {place.nameBegin,  place.nameEnd - place.nameBegin  },
+            {place.valueBegin, place.valueEnd - place.valueBegin}
+        });
         attributes += ATTRIBUTE_STRIDE;
         return true;
     });
-    if (item)
-        item->myFragment.elements.last().attributeCount = count;
+    const KTXMLFragment::Slice name {offset + 1, nameLength};
+    fragment.elements.append(KTXMLFragment::Element {name, myElement, firstAttribute,
+                                                     fragment.attributes.size() - firstAttribute, 0});
+    myElement = fragment.elements.size() - 1;
 }
 
 void KTCatalogueReaderImpl::endElement()
@@ -357,28 +383,22 @@ void KTCatalogueReaderImpl::endElement()
         finishItem(Item::Article);
 }
 
-/** Turns the collected tags into the item's text. */
+/** Whether the article is to be collected whose start tag was read. */
+bool KTCatalogueReaderImpl::isWanted() const
+{
+    if (!myIsWanted)
+        return true;
+    KTXMLFragment tag = myArticle->myFragment;
+    tag.elements.first().end = 1;
+    setText(&tag, myArticle->myTags, myDecodedValues);
+    return myIsWanted(tag.element());
+}
+
 void KTCatalogueReaderImpl::finishItem(Item item)
 {
     KTXMLFragment &fragment = myArticle->myFragment;
     fragment.elements.first().end = fragment.elements.size();
-    fragment.text = QString::fromUtf8(myArticle->myTags);
-    if (fragment.text.size() != myArticle->myTags.size()) {
-        Utf16Places places(myArticle->myTags);
-        KTXMLFragment::Attribute *attribute = fragment.attributes.data();
-        for (KTXMLFragment::Element &element : fragment.elements) {
-            places.convert(&element.name);
-            for (const auto *const end = attribute + element.attributeCount; attribute != end; ++attribute) {
-                places.convert(&attribute->name);
-                places.convert(&attribute->value);
-            }
-        }
-    }
-    for (const auto &[index, value] : myDecodedValues) {
-        const QString decoded = QString::fromUtf8(value);
-        fragment.attributes[index].value = {fragment.text.size(), decoded.size()};
-        fragment.text += decoded;
-    }
+    setText(&fragment, myArticle->myTags, myDecodedValues);
     myQueue.push_back({item, std::move(myArticle)});
 }
 

@@ -23,6 +23,7 @@ public:
     explicit KTCatalogueReaderImpl(QIODevice *device);
     ~KTCatalogueReaderImpl();
 
+    void setFilter(const KTCatalogueReader::Filter &isWanted) { myIsWanted = isWanted; }
     KTCatalogueReader::Item next(KTCatalogueArticle *article);
     KTCatalogueError error() const { return myIsErrorDue ? myError : KTCatalogueError(); }
 
@@ -50,11 +51,13 @@ private:
     void decide();
     void parse(const QByteArray &text, bool isLast);
     void checkPending();
+    void checkLimits(int begin, int end);
 
     void startElement(const char **attributes);
     void beginItem();
     void appendElement(int tagBegin, int tagEnd, int nameLength, const char **attributes);
     void endElement();
+    bool isWanted() const;
     void finishItem(Item item);
     void addText(int length);
     void leaveText();
@@ -97,6 +100,7 @@ private:
     int myTextLength = 0;
     KTFilePosition myTextBegin;
 
+    KTCatalogueReader::Filter myIsWanted;
     std::unique_ptr<KTCatalogueArticle> myArticle;
     /** The present element of the article, -1 outside of articles. */
     int myElement = -1;

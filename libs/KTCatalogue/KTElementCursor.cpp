@@ -18,9 +18,11 @@ void KTElementCursor::enter(int element, KTElementKind kind)
     myAttributes.fill(NO_ATTRIBUTE);
     if (kind == KTElementKind::Unread)
         return;
+    myRows.clear();
     for (int i = firstAttribute(); i < endOfAttributes(); ++i) {
-        if (const KTAttributeRow *const row = KTCatalogueFormat::attribute(kind, nameOf(i)))
-            myAttributes[static_cast<std::size_t>(row->id)] = i;
+        myRows.append(KTCatalogueFormat::attribute(kind, nameOf(i)));
+        if (myRows.last())
+            myAttributes[static_cast<std::size_t>(myRows.last()->id)] = i;
     }
 }
 

@@ -6,6 +6,8 @@
 
 #include <KTDistanceUnit.h>
 
+#include <QVarLengthArray>
+
 #include <array>
 #include <initializer_list>
 
@@ -50,6 +52,9 @@ public:
         return fragment().view(fragment().attributes.at(attribute).value);
     }
 
+    /** Null for an attribute that nothing reads. */
+    const KTAttributeRow *rowOf(int attribute) const { return myRows.at(attribute - firstAttribute()); }
+
     bool has(Id id) const { return attribute(id) != NO_ATTRIBUTE; }
     int attribute(Id id) const { return myAttributes[static_cast<std::size_t>(id)]; }
     /** The first of the attributes that is there. */
@@ -73,5 +78,6 @@ private:
     int myIndex = 0;
     KTElementKind myKind = KTElementKind::Unread;
     std::array<int, KTCatalogueFormat::ATTRIBUTE_COUNT> myAttributes {};
+    QVarLengthArray<const KTAttributeRow *, 32> myRows;
     QVector<KTFinding> myFindings;
 };

@@ -58,32 +58,35 @@ void KTPageCountChecker::checkRange(KTElementCursor *cursor) const
     const int min = myPageCounts.minPages();
     const int max = myPageCounts.maxPages();
     const int step = myPageCounts.pageIncrement();
-    const QString counts
-        = QStringLiteral("the page counts are %1%2")
-              .arg(KTCheckText::text(myPageCounts),
-                   myPageCounts.isValid() ? QString() : QStringLiteral(", which is not valid"));
-    const QString wish
-        = QStringLiteral("; a wish for %1 pages becomes %2").arg(max).arg(myPageCounts.constrain(max));
+    // Put into words only for what is reported.
+    const auto counts = [this] {
+        return QStringLiteral("the page counts are %1%2")
+            .arg(KTCheckText::text(myPageCounts),
+                 myPageCounts.isValid() ? QString() : QStringLiteral(", which is not valid"));
+    };
+    const auto wish = [this, max] {
+        return QStringLiteral("; a wish for %1 pages becomes %2").arg(max).arg(myPageCounts.constrain(max));
+    };
     const int stepOrUpper = cursor->firstOf({Id::ArticlePageStep, Id::ArticleMaxPages, Id::ArticlePages});
     if (min < 1 || max < 1) {
-        cursor->report(KTRule::PageCountRange, counts + QStringLiteral("; they begin at 1"),
+        cursor->report(KTRule::PageCountRange, counts() + QStringLiteral("; they begin at 1"),
                        cursor->firstOf({Id::ArticlePages, Id::ArticlePieces, Id::ArticleMaxPages}));
     } else if (cursor->has(Id::ArticlePieces) && (min == HIGHEST || max == HIGHEST)) {
         cursor->report(KTRule::PageCountRange,
                        QStringLiteral("'pages' times 'pieces' is too large, so the application cuts it off; ")
-                           + counts,
+                           + counts(),
                        cursor->attribute(Id::ArticlePieces));
     } else if (min > max) {
-        cursor->report(KTRule::PagesInverted, counts + wish,
+        cursor->report(KTRule::PagesInverted, counts() + wish(),
                        cursor->firstOf({Id::ArticleMaxPages, Id::ArticlePages}));
     } else if (step < 0) {
-        cursor->report(KTRule::NegativePageStep, counts + wish, cursor->attribute(Id::ArticlePageStep));
+        cursor->report(KTRule::NegativePageStep, counts() + wish(), cursor->attribute(Id::ArticlePageStep));
     } else if (step == 0 && min < max) {
-        cursor->report(KTRule::NoPageStep, counts + wish, stepOrUpper);
+        cursor->report(KTRule::NoPageStep, counts() + wish(), stepOrUpper);
     } else if (min < max && !myPageCounts.isConsistent()) {
         const int last = myPageCounts.pagesWithNExtraPackages(myPageCounts.numberOfPackages() - 1);
         cursor->report(KTRule::UnevenPageStep,
-                       counts + QStringLiteral(", but the last one offered is %1").arg(last) + wish
+                       counts() + QStringLiteral(", but the last one offered is %1").arg(last) + wish()
                            + QStringLiteral(", which exceeds the maximum"),
                        stepOrUpper);
     }

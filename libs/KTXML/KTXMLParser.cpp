@@ -5,6 +5,7 @@
 
 #include <QDomElement>
 #include <QDomNamedNodeMap>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,20 @@ namespace {
 
 constexpr KTStringLiteral UNITS_ATTRIBUTE = "units";
 constexpr KTStringLiteral DEFAULT_UNIT = "mm";
+
+/**
+ * Reads numbers as QString does, but without the copy that QStringView makes of its text. It lives as long as
+ * the process, so that destructors of the application can read, too.
+ */
+const QLocale &numbers()
+{
+    static const auto *const myLocale = [] {
+        auto *const locale = new QLocale(QLocale::C);
+        locale->setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
+        return locale;
+    }();
+    return *myLocale;
+}
 
 /** Whether the text is the word, which is in lower case, in any letter case. */
 bool isWord(QStringView text, QLatin1String word)
@@ -27,14 +42,14 @@ bool isWord(QStringView text, QLatin1String word)
 std::optional<int> KTXMLParser::parseInt(QStringView text)
 {
     bool ok = false;
-    const int number = text.toInt(&ok);
+    const int number = numbers().toInt(text, &ok);
     return ok ? std::make_optional(number) : std::nullopt;
 }
 
 std::optional<double> KTXMLParser::parseDouble(QStringView text)
 {
     bool ok = false;
-    const double number = text.toDouble(&ok);
+    const double number = numbers().toDouble(text, &ok);
     return ok && std::isfinite(number) ? std::make_optional(number) : std::nullopt;
 }
 

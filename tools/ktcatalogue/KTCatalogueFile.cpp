@@ -11,18 +11,39 @@ KTCatalogueFile::KTCatalogueFile(const QString &name)
         myReader = std::make_unique<KTCatalogueReader>(&myFile);
 }
 
-std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optional<KTArticle> *article)
+std::optional<KTExitCode>
+KTCatalogueFile::forEachArticle(const std::function<void(const KTCatalogueArticle &)> &function,
+                                std::optional<int> articleId)
 {
-    return forEachArticle([=](const KTCatalogueArticle &candidate) {
-        if (!*article && KTArticleId::findId(candidate.root()) == articleId)
-            article->emplace(candidate);
-    });
+    if (!myReader)
+        return reportFailure();
+    KTProgressLine progress(true);
+    int count = 0;
+    const auto countArticle = [&] {
+        ++count;
+        if (progress.isDue())
+            progress.show(QStringLiteral("%1: %2 articles").arg(myName, QString::number(count)));
+    };
+    bool isFound = false;
+    if (articleId) {
+        myReader->setFilter([&](const KTXMLElement &article) {
+            countArticle();
+            return !isFound && (isFound = KTArticleId::findId(article) == *articleId);
+        });
+    }
+    KTCatalogueArticle article;
+    while (myReader->nextArticle(&article) == KTCatalogueReader::Item::Article) {
+        function(article);
+        if (!articleId)
+            countArticle();
+    }
+    progress.clear();
+    return reportFailure();
 }
 
-/** False at the end of the file, and where it was refused. */
-bool KTCatalogueFile::readNext(KTCatalogueArticle *article)
+std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optional<KTArticle> *article)
 {
-    return myReader && myReader->nextArticle(article) == KTCatalogueReader::Item::Article;
+    return forEachArticle([=](const KTCatalogueArticle &found) { article->emplace(found); }, articleId);
 }
 
 std::optional<KTExitCode> KTCatalogueFile::reportFailure() const

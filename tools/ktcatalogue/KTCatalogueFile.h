@@ -8,6 +8,7 @@
 
 #include <QFile>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,28 +20,17 @@ public:
     explicit KTCatalogueFile(const QString &name);
 
     /**
-     * Calls the function with each article, to the end of the file, so that a broken file is found out
-     * wherever it is broken. An exit code means that the file was refused, which is then reported.
+     * Calls the function with each article, or with the first one that has the number, and reads to the end
+     * of the file, so that a broken file is found out wherever it is broken. An exit code means that the file
+     * was refused, which is then reported.
      */
-    template <typename Function>
-    std::optional<KTExitCode> forEachArticle(Function function)
-    {
-        KTCatalogueArticle article;
-        KTProgressLine progress(true);
-        for (int count = 1; readNext(&article); ++count) {
-            function(article);
-            if (progress.isDue())
-                progress.show(QStringLiteral("%1: %2 articles").arg(myName, QString::number(count)));
-        }
-        progress.clear();
-        return reportFailure();
-    }
+    std::optional<KTExitCode> forEachArticle(const std::function<void(const KTCatalogueArticle &)> &function,
+                                             std::optional<int> articleId = std::nullopt);
 
     /** Reads the first article with the number, if there is one, and the file to its end as above. */
     std::optional<KTExitCode> readArticle(int articleId, std::optional<KTArticle> *article);
 
 private:
-    bool readNext(KTCatalogueArticle *article);
     std::optional<KTExitCode> reportFailure() const;
 
     QString myName;

@@ -56,20 +56,18 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
     const bool isOneArticle = !wanted->isEmpty();
     KTSpool spool;
     bool isFirst = true;
-    const auto failure
-        = KTCatalogueFile(commandLine.fileName()).forEachArticle([&](const KTCatalogueArticle &article) {
-              if (isOneArticle && (!isFirst || KTArticleId::findId(article.root()) != wanted->constLast()))
-                  return;
-              const KTArticle content(article);
-              if (isJson)
-                  spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
-                              + jsonText(KTArticleReport::toJSON(content, *pageCounts)));
-              else
-                  spool.write((isFirst ? QString() : QStringLiteral("\n"))
-                              + KTArticleReport::toText(content, *pageCounts));
-              isFirst = false;
-          });
-    if (failure)
+    const auto show = [&](const KTCatalogueArticle &article) {
+        const KTArticle content(article);
+        if (isJson)
+            spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
+                        + jsonText(KTArticleReport::toJSON(content, *pageCounts)));
+        else
+            spool.write((isFirst ? QString() : QStringLiteral("\n"))
+                        + KTArticleReport::toText(content, *pageCounts));
+        isFirst = false;
+    };
+    const auto articleId = isOneArticle ? std::make_optional(wanted->constLast()) : std::nullopt;
+    if (const auto failure = KTCatalogueFile(commandLine.fileName()).forEachArticle(show, articleId))
         return *failure;
     if (isOneArticle && isFirst)
         return commandLine.failNoArticle(wanted->constLast());
