@@ -7,6 +7,13 @@ KTCatalogueReader::KTCatalogueReader(QIODevice *device)
 {
 }
 
+KTCatalogueReader::KTCatalogueReader(QIODevice *device, const KTCatalogueReader &other,
+                                     const KTFilePosition &position)
+    : myImpl(std::make_unique<KTCatalogueReaderImpl>(device))
+{
+    myImpl->beginAs(*other.myImpl, position);
+}
+
 KTCatalogueReader::~KTCatalogueReader() = default;
 
 void KTCatalogueReader::setFilter(const Filter &isWanted)

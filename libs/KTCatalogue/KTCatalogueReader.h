@@ -19,6 +19,8 @@ enum class KTCatalogueErrorKind {
     Unreadable,
     NotWellFormed,
     LimitExceeded,
+    /** It is no longer the file that was opened, see KTCatalogue. */
+    Changed,
 };
 
 struct KTCatalogueError
@@ -85,7 +87,11 @@ public:
     KTCatalogueError error() const;
 
 private:
+    friend class KTCatalogue;
     Q_DISABLE_COPY(KTCatalogueReader)
+
+    /** Reads on from an article of a catalogue whose begin the other reader has read. */
+    KTCatalogueReader(QIODevice *device, const KTCatalogueReader &other, const KTFilePosition &position);
 
     std::unique_ptr<KTCatalogueReaderImpl> myImpl;
 };

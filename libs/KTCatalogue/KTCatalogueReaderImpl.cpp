@@ -158,6 +158,17 @@ void KTCatalogueReaderImpl::setHandlers()
         });
 }
 
+void KTCatalogueReaderImpl::beginAs(const KTCatalogueReaderImpl &other, const KTFilePosition &position)
+{
+    myDecoder.beginAs(other.myDecoder);
+    myIsDecided = true;
+    // The parser needs the root element that the article is in.
+    parse(QByteArray("<catalogue>"), false);
+    myQueue.clear();
+    myTracker = KTTextTracker(position, myDecoder.width());
+    myTextBegin = position;
+}
+
 KTCatalogueReader::Item KTCatalogueReaderImpl::next(KTCatalogueArticle *article)
 {
     while (myQueue.empty() && !hasFailed() && !myIsAtEnd)

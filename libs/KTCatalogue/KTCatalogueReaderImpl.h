@@ -23,6 +23,8 @@ public:
     explicit KTCatalogueReaderImpl(QIODevice *device);
     ~KTCatalogueReaderImpl();
 
+    /** Begins in the middle of a catalogue whose begin the other one has read, where an article begins. */
+    void beginAs(const KTCatalogueReaderImpl &other, const KTFilePosition &position);
     void setFilter(const KTCatalogueReader::Filter &isWanted) { myIsWanted = isWanted; }
     KTCatalogueReader::Item next(KTCatalogueArticle *article);
     KTCatalogueError error() const { return myIsErrorDue ? myError : KTCatalogueError(); }

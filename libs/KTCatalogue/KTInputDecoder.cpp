@@ -110,8 +110,15 @@ int KTInputDecoder::begin(const QByteArray &head)
     return 0;
 }
 
+void KTInputDecoder::beginAs(const KTInputDecoder &other)
+{
+    if (other.myConverterName)
+        open(other.myConverterName, other.myEncoding, other.myWidth);
+}
+
 void KTInputDecoder::open(const char *encoding, const QString &name, KTCharacterWidth width)
 {
+    myConverterName = encoding;
     myEncoding = name;
     myWidth = width;
     const iconv_t converter = iconv_open("UTF-8", encoding);

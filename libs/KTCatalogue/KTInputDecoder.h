@@ -25,6 +25,9 @@ public:
     /** Takes the first bytes and returns how many of them belong to the mark; see error(). */
     int begin(const QByteArray &head);
 
+    /** Begins in the middle of a file that another decoder has begun with. */
+    void beginAs(const KTInputDecoder &other);
+
     KTCharacterWidth width() const { return myWidth; }
     /** The next bytes in UTF-8, up to the first one that is no character; see error(). */
     QByteArray decode(const QByteArray &bytes, bool isLast);
@@ -38,8 +41,10 @@ private:
     void open(const char *encoding, const QString &name, KTCharacterWidth width);
 
     QString myEncoding;
+    /** What iconv calls it; null for UTF-8, which is handed through. */
+    const char *myConverterName = nullptr;
     KTCharacterWidth myWidth = KTCharacterWidth::Utf8;
-    /** Null for UTF-8, which is handed through. */
+    /** Null like its name. */
     iconv_t myConverter = nullptr;
     /** The first bytes of a character that is not complete yet. */
     QByteArray myRest;
