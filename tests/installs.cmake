@@ -14,6 +14,18 @@ run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/consumer" -B "${SCRATCH_DIR}/bui
     "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/build")
 run("${SCRATCH_DIR}/build/consumer")
+# The example is built as a newcomer would build it, and says what its page says.
+run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/../examples/order" -B "${SCRATCH_DIR}/order"
+    "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
+run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/order")
+execute_process(
+    COMMAND "${SCRATCH_DIR}/order/order" "${SOURCE_DIR}/../examples/catalogue.xml" 7301
+        alcolor=gold alcolor=red pages=31 pages=30
+    OUTPUT_VARIABLE said)
+file(READ "${SOURCE_DIR}/data/order-example.txt" expected)
+if(NOT said STREQUAL expected)
+    message(FATAL_ERROR "the example says:\n${said}and not:\n${expected}")
+endif()
 run("${SCRATCH_DIR}/moved/bin/ktcatalogue" --version)
 # A drawing needs neither a display nor an environment.
 run(${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM "${SCRATCH_DIR}/moved/bin/ktcatalogue" preview
