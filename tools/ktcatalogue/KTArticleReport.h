@@ -14,7 +14,8 @@ namespace KTArticleReport {
  * counts; without any, for the least, a middle and the highest one.
  */
 QString toText(const KTArticle &article, const QList<int> &pageCounts);
-QJsonObject toJSON(const KTArticle &article, const QList<int> &pageCounts);
+/** One object, indented, with the characters escaped that a terminal would obey. */
+QString toJSON(const KTArticle &article, const QList<int> &pageCounts);
 QJsonObject toJSON(const KTArticleVariants &variants);
 
 } // namespace KTArticleReport

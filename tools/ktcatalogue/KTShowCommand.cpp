@@ -4,21 +4,12 @@
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
 #include "KTSpool.h"
-#include "KTTerminalText.h"
-
-#include <QJsonDocument>
 
 namespace {
 
 const QString TEXT_FORMAT = QStringLiteral("text");
 const QString JSON_FORMAT = QStringLiteral("json");
 const QString JSON_BEGIN = QStringLiteral("{\"format\":1,\"articles\":[\n");
-
-/** The document's text without its final line break. */
-QString jsonText(const QJsonObject &object)
-{
-    return KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()).trimmed());
-}
 
 } // namespace
 
@@ -60,7 +51,7 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
         const KTArticle content(article);
         if (isJson)
             spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
-                        + jsonText(KTArticleReport::toJSON(content, *pageCounts)));
+                        + KTArticleReport::toJSON(content, *pageCounts));
         else
             spool.write((isFirst ? QString() : QStringLiteral("\n"))
                         + KTArticleReport::toText(content, *pageCounts));
