@@ -1,4 +1,5 @@
 #include "KTFuzz.h"
+#include "KTTrickle.h"
 
 #include <KTArticle.h>
 #include <KTArticleReport.h>
@@ -9,12 +10,55 @@
 #include <QBuffer>
 #include <QJsonDocument>
 
+namespace {
+
+struct Reading
+{
+    int articles = 0;
+    KTFileRange last;
+    KTCatalogueError error;
+};
+
+Reading read(QIODevice *file)
+{
+    Reading reading;
+    KTCatalogueReader reader(file);
+    KTCatalogueArticle article;
+    while (reader.nextArticle(&article) == KTCatalogueReader::Item::Article) {
+        ++reading.articles;
+        reading.last = article.elementRange(0);
+    }
+    reading.error = reader.error();
+    return reading;
+}
+
+/** However the file comes, what is read is the same. */
+void requireSamePieces(const QByteArray &text, int piece)
+{
+    QBuffer whole;
+    whole.setData(text);
+    KT_REQUIRE(whole.open(QIODevice::ReadOnly));
+    KTTrickle pieces(text, piece);
+    const Reading first = read(&whole);
+    const Reading second = read(&pieces);
+    KT_REQUIRE(first.articles == second.articles && first.last.end.offset == second.last.end.offset);
+    KT_REQUIRE(first.last.begin.line == second.last.begin.line
+               && first.last.begin.column == second.last.begin.column);
+    KT_REQUIRE(first.error.kind == second.error.kind && first.error.text == second.error.text);
+    KT_REQUIRE(first.error.position.line == second.error.position.line
+               && first.error.position.column == second.error.position.column);
+}
+
+} // namespace
+
 void KTFuzz::catalogue(Bytes input)
 {
-    enum Flag { Check = 1, JSON = 2, Boundaries = 4 };
+    enum Flag { Check = 1, JSON = 2, Boundaries = 4, Pieces = 8 };
     const int question = input.take<uchar>();
     const QList<int> pageCounts = question & Boundaries ? QList<int> {INT_MIN, 0, 1, INT_MAX} : QList<int>();
     const QByteArray text = QByteArray::fromRawData(input.begin, static_cast<int>(input.end - input.begin));
+    if (question & Pieces)
+        return requireSamePieces(text, 1 + (question >> 4));
     QBuffer file;
     file.setData(text);
     KT_REQUIRE(file.open(QIODevice::ReadOnly));

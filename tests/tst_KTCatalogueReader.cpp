@@ -1,6 +1,7 @@
 #include <KTCatalogueReader.h>
 
 #include "KTTestSupport.h"
+#include "KTTrickle.h"
 
 #include <QBuffer>
 #include <QDirIterator>
@@ -12,33 +13,6 @@
 namespace {
 
 using Item = KTCatalogueReader::Item;
-
-/** Gives out its bytes a few at a time, so that what belongs together comes in pieces. */
-class Trickle : public QIODevice
-{
-public:
-    Trickle(const QByteArray &bytes, int piece)
-        : myBytes(bytes)
-        , myPiece(piece)
-    {
-        open(ReadOnly | Unbuffered);
-    }
-    bool atEnd() const override { return myBytes.isEmpty(); }
-
-protected:
-    qint64 readData(char *data, qint64 maximum) override
-    {
-        const QByteArray piece = myBytes.left(int(qMin<qint64>(maximum, myPiece)));
-        memcpy(data, piece.constData(), std::size_t(piece.size()));
-        myBytes.remove(0, piece.size());
-        return piece.size();
-    }
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    QByteArray myBytes;
-    int myPiece;
-};
 
 QByteArray content(const QString &fileName)
 {
@@ -169,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(!file.isEmpty() && !expected.isEmpty());
         QString first;
         for (int piece = 1; piece < 20; ++piece) {
-            Trickle device(file, piece);
+            KTTrickle device(file, piece);
             KTCatalogueReader reader(&device);
             KTCatalogueArticle article;
             QCOMPARE(reader.next(&article), Item::Root);
@@ -197,7 +171,7 @@ private Q_SLOTS:
         const auto [written, read] = KTTest::row<QByteArray, QByteArray>();
         const QByteArray file = QByteArray("<?xml version='1.0' encoding='") + QTest::currentDataTag()
             + "'?>\n<catalogue><article name='" + written + "' id='7'/></catalogue>";
-        Trickle device(file, 5);
+        KTTrickle device(file, 5);
         KTCatalogueReader reader(&device);
         KTCatalogueArticle article;
         QCOMPARE(reader.nextArticle(&article), Item::Article);
@@ -223,7 +197,7 @@ private Q_SLOTS:
         QTextCodec::ConverterState state(hasMark ? QTextCodec::DefaultConversion : QTextCodec::IgnoreHeader);
         const QByteArray file
             = QTextCodec::codecForName(codec)->fromUnicode(content.constData(), content.size(), &state);
-        Trickle device(file, 3);
+        KTTrickle device(file, 3);
         KTCatalogueReader reader(&device);
         KTCatalogueArticle article;
         QCOMPARE(reader.nextArticle(&article), Item::Article);
