@@ -90,6 +90,7 @@ private Q_SLOTS:
         row("1:1: the encoding 'KOI8-R' is none of UTF-8, UTF-16, ISO-8859-1, ISO-8859-15 and windows-1252",
             "<?xml version='1.0' encoding='KOI8-R'?><catalogue/>", 0);
         row("1:3: a NUL character; the file is no text", QByteArray("<c\0>", 4), 0);
+        row("NUL at the begin", "1:1: a NUL character; the file is no text", QByteArray("\0<c/>", 6), 0);
         row("compressed", "1:1: the file is compressed with gzip; unpack it first", "\x1f\x8b\x08", 0);
         row("1:34: the byte 0xe4 is not UTF-8; save the file as UTF-8, or name its encoding in the first "
             "line",

@@ -224,19 +224,25 @@ void KTCatalogueReaderImpl::decide()
 
 void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
 {
-    myWindow += text;
-    const bool isBroken = !myDecoder.error().isEmpty();
+    // The parser must not see a NUL: at the begin of a file it would take it for a part of UTF-16.
+    const int nul = text.indexOf('\0');
+    const bool isBroken = nul >= 0 || !myDecoder.error().isEmpty();
+    myWindow.append(text.constData(), nul >= 0 ? nul : text.size());
     const int unseen = myWindow.size() - myUnseen;
     // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
     // long markup costs no time out of proportion.
     if (!isLast && !isBroken && unseen < myUnseen)
         return;
     const int begin = std::exchange(myUnseen, myWindow.size());
-    const bool isParsed = XML_Parse(myParser, bytes(begin), unseen, isLast && !isBroken) == XML_STATUS_OK;
-    if (!isParsed)
+    // Where the text breaks off, the parser is to tell what is wrong before.
+    const bool isParsed = XML_Parse(myParser, bytes(begin), unseen, isLast || isBroken) == XML_STATUS_OK;
+    if (isBroken && (isParsed || KTXMLError::isAboutEnd(XML_GetErrorCode(myParser)))) {
+        fail(Kind::NotWellFormed,
+             nul >= 0 ? QStringLiteral("a NUL character; the file is no text") : myDecoder.error(),
+             positionOf(myWindow.size()));
+    } else if (!isParsed) {
         failAsParser();
-    else if (isBroken)
-        fail(Kind::NotWellFormed, myDecoder.error(), positionOf(myWindow.size()));
+    }
     if (hasFailed())
         return;
     // Before the root element the parser is done with markup that its errors are about.

@@ -159,8 +159,13 @@ Answer wrongTag(const Text &text, const char *markup)
     return {QStringLiteral("what stands here belongs into no tag"), text.place};
 }
 
-/** A character that cannot stand where it does. */
-Answer invalidToken(const Text &text)
+QString outsideOfRoot()
+{
+    return QStringLiteral("there is text outside of the root element");
+}
+
+/** A character that cannot stand where it does, inside or outside of the root element. */
+Answer invalidToken(const Text &text, bool isOutside)
 {
     const int length = text.place == text.end ? 1 : characterLength(text.place, text.end);
     if (length == 0) {
@@ -170,8 +175,6 @@ Answer invalidToken(const Text &text)
                 .arg(static_cast<uchar>(*text.place), 2, 16, QLatin1Char('0')),
             text.place};
     }
-    if (text.place != text.end && *text.place == '\0')
-        return {QStringLiteral("a NUL character; the file is no text"), text.place};
     if (text.place != text.end && isForbidden(text.place, length)) {
         return {
             QStringLiteral("the character U+%1 is not allowed in XML")
@@ -191,13 +194,20 @@ Answer invalidToken(const Text &text)
         return {QStringLiteral("'--' inside of a comment"), text.place};
     if (markup)
         return wrongTag(text, markup);
-    if (startsWith(text.place, text.end, "]]>")
-        || startsWith(std::max(text.begin, text.place - 2), text.end, "]]>"))
+    if (isOutside)
+        return {outsideOfRoot(), text.place};
+    if (text.place - text.begin >= 2 && startsWith(text.place - 2, text.end, "]]>"))
         return {QStringLiteral("']]>' in a text must be written as ']]&gt;'"), text.place};
     return {QStringLiteral("what stands here is no XML"), text.place};
 }
 
 } // namespace
+
+bool KTXMLError::isAboutEnd(XML_Error error)
+{
+    return error == XML_ERROR_NO_ELEMENTS || error == XML_ERROR_UNCLOSED_TOKEN
+        || error == XML_ERROR_PARTIAL_CHAR || error == XML_ERROR_UNCLOSED_CDATA_SECTION;
+}
 
 KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const QString &openElement,
                                        int openLine)
@@ -211,9 +221,9 @@ KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const 
                                                            : QStringLiteral("the file has no element"),
                 text.end};
     case XML_ERROR_SYNTAX:
-        return at(QStringLiteral("there is text outside of the root element"));
+        return at(outsideOfRoot());
     case XML_ERROR_INVALID_TOKEN:
-        return invalidToken(text);
+        return invalidToken(text, openElement.isEmpty());
     case XML_ERROR_UNCLOSED_TOKEN:
         return at(unclosedMarkup(text.place, text.end));
     case XML_ERROR_PARTIAL_CHAR:

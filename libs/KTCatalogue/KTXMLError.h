@@ -25,6 +25,8 @@ struct Answer
     const char *place;
 };
 
+/** Whether there is nothing wrong but that the text ends. */
+bool isAboutEnd(XML_Error error);
 /** The innermost open element, if there is one, is the one with the name, whose tag stands in the line. */
 Answer explain(XML_Error error, const Text &text, const QString &openElement, int openLine);
 
