@@ -224,10 +224,8 @@ void KTCatalogueReaderImpl::decide()
 
 void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
 {
-    // The parser must not see a NUL: at the begin of a file it would take it for a part of UTF-16.
-    const int nul = text.indexOf('\0');
-    const bool isBroken = nul >= 0 || !myDecoder.error().isEmpty();
-    myWindow.append(text.constData(), nul >= 0 ? nul : text.size());
+    const bool hasNul = !append(text);
+    const bool isBroken = hasNul || !myDecoder.error().isEmpty();
     const int unseen = myWindow.size() - myUnseen;
     // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
     // long markup costs no time out of proportion.
@@ -238,10 +236,10 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     const bool isParsed = XML_Parse(myParser, bytes(begin), unseen, isLast || isBroken) == XML_STATUS_OK;
     if (isBroken && (isParsed || KTXMLError::isAboutEnd(XML_GetErrorCode(myParser)))) {
         fail(Kind::NotWellFormed,
-             nul >= 0 ? QStringLiteral("a NUL character; the file is no text") : myDecoder.error(),
+             hasNul ? QStringLiteral("a NUL character; the file is no text") : myDecoder.error(),
              positionOf(myWindow.size()));
     } else if (!isParsed) {
-        failAsParser();
+        failAsParser(isLast || isBroken);
     }
     if (hasFailed())
         return;
@@ -254,6 +252,17 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     myUnseen -= done;
     checkPending();
     myIsAtEnd = isLast;
+}
+
+/**
+ * Puts the text into the window, up to a NUL, and tells whether there is none. The parser must not see one:
+ * at the begin of a file it would take it for a part of UTF-16.
+ */
+bool KTCatalogueReaderImpl::append(const QByteArray &text)
+{
+    const int nul = text.indexOf('\0');
+    myWindow.append(text.constData(), nul < 0 ? text.size() : nul);
+    return nul < 0;
 }
 
 /** What the parser waits for the end of must not grow beyond the limits either. */
@@ -434,11 +443,16 @@ void KTCatalogueReaderImpl::leaveText()
     myTextBegin = myTracker.position();
 }
 
-/** Takes over the parser's error, unless it is only that it was stopped. */
-void KTCatalogueReaderImpl::failAsParser()
+/** Takes over the parser's error; there may be more to read that tells about it. */
+void KTCatalogueReaderImpl::failAsParser(bool isAtEnd)
 {
+    constexpr int MAX_CHARACTER_LENGTH = 4;
     const XML_Error code = XML_GetErrorCode(myParser);
     const int place = std::clamp(eventBegin(), this->place(myTrackedOffset), myWindow.size());
+    while (!isAtEnd && myWindow.size() - place < MAX_CHARACTER_LENGTH) {
+        const QByteArray chunk = myDevice->read(CHUNK_SIZE);
+        isAtEnd = chunk.isEmpty() || !append(myDecoder.decode(chunk, false));
+    }
     const KTXMLError::Text text {bytes(0), bytes(place), bytes(myWindow.size()), myWindowOffset == 0};
     const KTXMLError::Answer answer = KTXMLError::explain(code, text, openElement(), openLine());
     fail(Kind::NotWellFormed, answer.words, positionOf(static_cast<int>(answer.place - bytes(0))));

@@ -52,6 +52,7 @@ private:
     void feed();
     void decide();
     void parse(const QByteArray &text, bool isLast);
+    bool append(const QByteArray &text);
     void checkPending();
     void checkLimits(int begin, int end);
 
@@ -64,7 +65,7 @@ private:
     void addText(int length);
     void leaveText();
     void refuseDocumentType();
-    void failAsParser();
+    void failAsParser(bool isAtEnd);
 
     /** Where in the window what the parser tells of begins, and where it ends. */
     int eventBegin() const { return place(XML_GetCurrentByteIndex(myParser)); }
