@@ -124,8 +124,8 @@ void KTBenchmark::addCatalogue()
 
     static const QStringList reports {KTArticleReport::toJSON(model, {}).left(1000)};
     const QString &report = reports.first();
-    require(report.size() == 1000 && KTTerminalText::visibleJson(report) == report,
+    require(report.size() == 1000 && KTTerminalText::escapedJson(report) == report,
             QStringLiteral("a text with nothing to escape"));
     addOverInputs("make 1,000 characters visible/library", reports,
-                  [](const QString &text) { return KTTerminalText::visibleJson(text); });
+                  [](const QString &text) { return KTTerminalText::escapedJson(text); });
 }

@@ -21,10 +21,10 @@ private Q_SLOTS:
                 {u"text"_s, text}
             };
             const QString json
-                = KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()));
+                = KTTerminalText::escapedJson(QString::fromUtf8(QJsonDocument(object).toJson()));
             const bool isSame = QJsonDocument::fromJson(json.toUtf8()).object() == object;
             const bool isVisible = !json.contains(QChar(0x202e)) && !json.contains(QChar(0x9b));
-            return KTTest::text(KTTerminalText::visible(text), isSame, isVisible);
+            return KTTest::text(KTTerminalText::escaped(text), isSame, isVisible);
         };
         KTTest::check(visible,
                       {"Weiß \u20ac -> Weiß \u20ac|+|+", "\x1b[2J\n -> \\u001b[2J\\u000a|+|+",

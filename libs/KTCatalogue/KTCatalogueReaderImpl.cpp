@@ -152,6 +152,9 @@ void KTCatalogueReaderImpl::setHandlers()
     XML_SetProcessingInstructionHandler(myParser, [](void *context, const XML_Char *, const XML_Char *) {
         static_cast<KTCatalogueReaderImpl *>(context)->leaveText();
     });
+    XML_SetXmlDeclHandler(myParser, [](void *context, const XML_Char *, const XML_Char *, int) {
+        static_cast<KTCatalogueReaderImpl *>(context)->leaveText();
+    });
     XML_SetStartDoctypeDeclHandler(
         myParser, [](void *context, const XML_Char *, const XML_Char *, const XML_Char *, int) {
             static_cast<KTCatalogueReaderImpl *>(context)->refuseDocumentType();
@@ -243,8 +246,8 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     }
     if (hasFailed())
         return;
-    // Before the root element the parser is done with markup that its errors are about.
-    if (myHasRoot)
+    // Outside of the root element the parser is done with text that its errors are about.
+    if (myDepth > 0)
         advanceTo(std::max(eventBegin(), place(myTrackedOffset)));
     const int done = place(myTrackedOffset);
     myWindow.remove(0, done);
@@ -302,7 +305,6 @@ void KTCatalogueReaderImpl::startElement(const char **attributes)
         return;
     const int tagBegin = eventBegin();
     const int tagEnd = eventEnd();
-    myHasRoot = true;
     advanceTo(tagBegin);
     const KTFilePosition position = myTracker.position();
     const std::string_view elementName = KTStartTag::name(bytes(tagBegin + 1), bytes(tagEnd));
@@ -453,7 +455,8 @@ void KTCatalogueReaderImpl::failAsParser(bool isAtEnd)
         const QByteArray chunk = myDevice->read(CHUNK_SIZE);
         isAtEnd = chunk.isEmpty() || !append(myDecoder.decode(chunk, false));
     }
-    const KTXMLError::Text text {bytes(0), bytes(place), bytes(myWindow.size()), myWindowOffset == 0};
+    const KTXMLError::Text text {bytes(0), bytes(this->place(myTrackedOffset)), bytes(place),
+                                 bytes(myWindow.size()), myWindowOffset == 0};
     const KTXMLError::Answer answer = KTXMLError::explain(code, text, openElement(), openLine());
     fail(Kind::NotWellFormed, answer.words, positionOf(static_cast<int>(answer.place - bytes(0))));
 }

@@ -95,7 +95,6 @@ private:
     qint64 myTrackedOffset = 0;
     /** Where in the window the bytes begin that the parser has not seen. */
     int myUnseen = 0;
-    bool myHasRoot = false;
 
     int myDepth = 0;
     QByteArray myOpenNames;

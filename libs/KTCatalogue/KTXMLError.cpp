@@ -159,13 +159,8 @@ Answer wrongTag(const Text &text, const char *markup)
     return {QStringLiteral("what stands here belongs into no tag"), text.place};
 }
 
-QString outsideOfRoot()
-{
-    return QStringLiteral("there is text outside of the root element");
-}
-
-/** A character that cannot stand where it does, inside or outside of the root element. */
-Answer invalidToken(const Text &text, bool isOutside)
+/** A character that cannot stand where it does. */
+Answer invalidToken(const Text &text)
 {
     const int length = text.place == text.end ? 1 : characterLength(text.place, text.end);
     if (length == 0) {
@@ -194,8 +189,6 @@ Answer invalidToken(const Text &text, bool isOutside)
         return {QStringLiteral("'--' inside of a comment"), text.place};
     if (markup)
         return wrongTag(text, markup);
-    if (isOutside)
-        return {outsideOfRoot(), text.place};
     if (text.place - text.begin >= 2 && startsWith(text.place - 2, text.end, "]]>"))
         return {QStringLiteral("']]>' in a text must be written as ']]&gt;'"), text.place};
     return {QStringLiteral("what stands here is no XML"), text.place};
@@ -213,6 +206,10 @@ KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const 
                                        int openLine)
 {
     const auto at = [&text](const QString &words) { return Answer {words, text.place}; };
+    // Of a text outside of the root element the parser tells this or that, and not its begin.
+    const char *const outside = std::find_if_not(text.markupEnd, text.end, &KTStartTag::isBlank);
+    if (openElement.isEmpty() && outside != text.end && *outside != '<' && outside <= text.place)
+        return {QStringLiteral("there is text outside of the root element"), outside};
     switch (error) {
     case XML_ERROR_NO_ELEMENTS:
         if (!openElement.isEmpty())
@@ -221,9 +218,9 @@ KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const 
                                                            : QStringLiteral("the file has no element"),
                 text.end};
     case XML_ERROR_SYNTAX:
-        return at(outsideOfRoot());
+        return at(QStringLiteral("what stands here does not belong before the root element"));
     case XML_ERROR_INVALID_TOKEN:
-        return invalidToken(text, openElement.isEmpty());
+        return invalidToken(text);
     case XML_ERROR_UNCLOSED_TOKEN:
         return at(unclosedMarkup(text.place, text.end));
     case XML_ERROR_PARTIAL_CHAR:

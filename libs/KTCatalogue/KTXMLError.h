@@ -12,6 +12,8 @@ struct Text
 {
     /** What is still known of it, which is all of the markup that the error is in. */
     const char *begin;
+    /** Behind the last markup that is complete. */
+    const char *markupEnd;
     /** Where the parser stands. */
     const char *place;
     const char *end;

@@ -21,7 +21,7 @@ _ktcatalogue() {
         check:--error | check:--explain | check:--ignore)
             words=$("$program" check --list-rules 2>/dev/null | sed 's/^ *//; s/ .*//')
             ;;
-        check:--files-from | check:--max-findings) return ;;
+        check:--files-from | check:--max-findings | check:-j) return ;;
         keywords:--format) words="text json markdown" ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
@@ -29,7 +29,7 @@ _ktcatalogue() {
             case $command:$current in
             show:-*) words="--article --pages --format --json" ;;
             check:-*)
-                words="--files-from --format --json --fail-on --ignore --error --pedantic --max-findings --quiet"
+                words="--files-from --format --json --fail-on --ignore --error --pedantic -j --max-findings --quiet"
                 words+=" --list-rules --explain --color"
                 ;;
             order:-*) words="--article --pages --choose --format --json" ;;

@@ -1,11 +1,12 @@
 #include "KTCheckCommand.h"
-#include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTKeywordsCommand.h"
-#include "KTNearestWord.h"
 #include "KTOrderCommand.h"
 #include "KTPreviewCommand.h"
 #include "KTShowCommand.h"
+
+#include <KTNearestWord.h>
 
 #include <QGuiApplication>
 
@@ -54,12 +55,12 @@ KTExitCode run(const QStringList &arguments)
 {
     const QString command = arguments.value(0);
     if (command == QLatin1String("-h") || command == QLatin1String("--help"))
-        return KTCommandLine::print(help());
+        return KTConsole::print(help());
     if (command == QLatin1String("-v") || command == QLatin1String("--version")) {
-        return KTCommandLine::print(QStringLiteral("%1 (KTProductBase) %2, Qt %3\n")
-                                        .arg(QCoreApplication::applicationName(),
-                                             QCoreApplication::applicationVersion(),
-                                             QString::fromLatin1(qVersion())));
+        return KTConsole::print(QStringLiteral("%1 (KTProductBase) %2, Qt %3\n")
+                                    .arg(QCoreApplication::applicationName(),
+                                         QCoreApplication::applicationVersion(),
+                                         QString::fromLatin1(qVersion())));
     }
     QStringList names;
     for (const CommandRow &row : COMMANDS) {
@@ -68,9 +69,9 @@ KTExitCode run(const QStringList &arguments)
             return row.run(arguments);
     }
     if (arguments.isEmpty())
-        return KTCommandLine::failUsage(QStringLiteral("a command is missing"));
+        return KTConsole::failUsage(QStringLiteral("a command is missing"));
     const QString nearest = KTNearestWord::find(command, names);
-    return KTCommandLine::failUsage(
+    return KTConsole::failUsage(
         QStringLiteral("unknown command '%1'").arg(command)
         + (nearest.isNull() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
 }
@@ -78,7 +79,7 @@ KTExitCode run(const QStringList &arguments)
 /** What the library logs is for the user too, one line each. */
 void printMessage(QtMsgType, const QMessageLogContext &, const QString &text)
 {
-    KTCommandLine::fail(KTExitSuccess, QStringLiteral("ktcatalogue: %1").arg(text));
+    KTConsole::note(QStringLiteral("ktcatalogue: %1").arg(text));
 }
 
 void printIfFatal(QtMsgType type, const QMessageLogContext &context, const QString &text)

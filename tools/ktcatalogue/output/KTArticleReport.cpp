@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
-using KTTerminalText::visible;
+using KTTerminalText::escaped;
 
 namespace {
 
@@ -40,7 +40,7 @@ QString line(const QString &label, const QString &text)
 
 QString line(const Row &row)
 {
-    return line(row.label, visible(row.value.isEmpty() ? row.remark : row.value + INDENT + row.remark));
+    return line(row.label, escaped(row.value.isEmpty() ? row.remark : row.value + INDENT + row.remark));
 }
 
 /** The text of the fact; null where there is none. */
@@ -56,7 +56,7 @@ int widest(const QVector<Row> &rows, Getter getter)
 {
     int width = 0;
     for (const Row &row : rows)
-        width = std::max(width, visible(getter(row)).size());
+        width = std::max(width, escaped(getter(row)).size());
     return width;
 }
 
@@ -73,11 +73,11 @@ QStringList optionLines(const QVector<Row> &rows)
         byKey[fact(row, "key")].append(row);
     for (auto entry = byKey.cbegin(); entry != byKey.cend(); ++entry) {
         lines.append(INDENT
-                     + line(visible(entry.key()), visible(fact(entry.value().constFirst(), "keyName"))));
+                     + line(escaped(entry.key()), escaped(fact(entry.value().constFirst(), "keyName"))));
         for (const Row &row : entry.value()) {
             const QString columns = QStringLiteral("%1  %2  %3  %4")
-                                        .arg(visible(row.label).leftJustified(valueWidth),
-                                             visible(row.value).leftJustified(nameWidth),
+                                        .arg(escaped(row.label).leftJustified(valueWidth),
+                                             escaped(row.value).leftJustified(nameWidth),
                                              fact(row, "color").leftJustified(COLOR_WIDTH), row.remark);
             lines.append(INDENT + INDENT + line(QString(), columns).mid(LABEL_WIDTH + INDENT.size()));
         }
@@ -227,7 +227,7 @@ QString KTArticleReport::toText(const KTArticle &article, const QList<int> &page
                 continue;
             lines.append(
                 lines.isEmpty()
-                    ? visible(row.label + QLatin1Char(' ') + row.value + INDENT + row.remark).trimmed()
+                    ? escaped(row.label + QLatin1Char(' ') + row.value + INDENT + row.remark).trimmed()
                     : line(row));
         }
     }
@@ -248,7 +248,7 @@ QString KTArticleReport::toJSON(const KTArticle &article, const QList<int> &page
     Writer writer(buffer);
     writeObject(&writer, members, description.sections);
     const auto *const text = reinterpret_cast<const QChar *>(buffer.GetString());
-    return KTTerminalText::visibleJson(QString(text, static_cast<int>(buffer.GetSize() / sizeof(QChar))));
+    return KTTerminalText::escapedJson(QString(text, static_cast<int>(buffer.GetSize() / sizeof(QChar))));
 }
 
 QJsonObject KTArticleReport::toJSON(const KTArticleVariants &variants)

@@ -41,7 +41,7 @@ QString counted(int count, const QString &what)
 /** On one line, everything visible that a terminal would obey. */
 QString json(const QJsonObject &object)
 {
-    return KTTerminalText::visibleJson(
+    return KTTerminalText::escapedJson(
         QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
@@ -65,12 +65,12 @@ public:
 
     void write(const KTFinding &finding) override
     {
-        const QString place = KTTerminalText::visible(finding.file)
+        const QString place = KTTerminalText::escaped(finding.file)
             + (finding.range.begin.line == 0
                    ? QStringLiteral(":")
                    : QStringLiteral(":%1:%2:").arg(finding.range.begin.line).arg(finding.range.begin.column));
         const QString severity = KTCheckRules::name(finding.severity) + QLatin1Char(':');
-        const QString rest = KTTerminalText::visible(finding.message)
+        const QString rest = KTTerminalText::escaped(finding.message)
             + QStringLiteral(" [%1]\n").arg(KTCheckRules::name(finding.rule));
         print(myIsColored ? BOLD + place + NORMAL + QLatin1Char(' ') + color(finding.severity) + severity
                       + NORMAL + QLatin1Char(' ') + rest

@@ -1,9 +1,10 @@
 #include "KTCheckCommand.h"
 
 #include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTFindingWriter.h"
-#include "KTProgressLine.h"
+#include "KTParallelCheck.h"
 
 #include <KTCatalogueChecker.h>
 #include <KTNearestWord.h>
@@ -11,7 +12,8 @@
 #include <QFile>
 
 #include <limits>
-#include <unistd.h>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -21,6 +23,7 @@ const QString IGNORE = QStringLiteral("ignore");
 const QString ERROR = QStringLiteral("error");
 const QString PEDANTIC = QStringLiteral("pedantic");
 const QString MAX_FINDINGS = QStringLiteral("max-findings");
+const QString JOBS = QStringLiteral("j");
 const QString QUIET = QStringLiteral("quiet");
 const QString LIST_RULES = QStringLiteral("list-rules");
 const QString EXPLAIN = QStringLiteral("explain");
@@ -41,6 +44,8 @@ struct Options
     /** Nothing when findings do not matter for the exit code. */
     std::optional<KTSeverity> failOn;
     int maximum = std::numeric_limits<int>::max();
+    /** How many files are checked at once. */
+    int jobs = 1;
 };
 
 struct OptionRow
@@ -59,6 +64,7 @@ const OptionRow OPTIONS[] = {
     {IGNORE,       "RULE",     "",        "Leaves out a rule, or several, separated by commas."                        },
     {ERROR,        "RULE",     "",        "Takes the findings of a rule, or of several, as errors."                    },
     {PEDANTIC,     "",         "",        "Takes warnings as errors and hints as warnings."                            },
+    {JOBS,         "N",        "1",       "Checks N files at once; the output stays the same. 1 by default."           },
     {MAX_FINDINGS, "N",        "",        "Shows the first N findings; all of them are counted."                       },
     {QUIET,        "",         "",        "Neither summary nor progress on standard error."                            },
     {LIST_RULES,   "",         "",        "Lists the rules."                                                           },
@@ -83,7 +89,7 @@ const KTRuleRow *findRule(const QString &name)
     const KTRuleRow *const row = KTCheckRules::find(name);
     if (!row) {
         const QString nearest = KTNearestWord::find(name, KTCheckRules::names());
-        KTCommandLine::failUsage(
+        KTConsole::failUsage(
             QStringLiteral("there is no rule '%1'").arg(name)
             + (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
     }
@@ -110,12 +116,6 @@ QString explanation(const KTRuleRow &row)
              QString::fromLatin1(row.summary), QString::fromLatin1(row.explanation));
 }
 
-bool isTerminalColored()
-{
-    return isatty(STDOUT_FILENO) != 0 && qEnvironmentVariableIsEmpty("NO_COLOR")
-        && qgetenv("TERM") != QByteArrayLiteral("dumb");
-}
-
 /** The severity from which on findings count; an exit code for a word that is none. */
 std::optional<KTExitCode> readFailOn(const QString &word, std::optional<KTSeverity> *failOn)
 {
@@ -130,6 +130,21 @@ std::optional<KTExitCode> readFailOn(const QString &word, std::optional<KTSeveri
                                 : std::make_optional(KTCommandLine::failChoice(FAIL_ON, word, words));
 }
 
+/** Reads the option's number; one that is none, or too small, is reported as wrong usage. */
+bool readNumber(const QCommandLineParser &parser, const QString &option, int minimum, int *number)
+{
+    bool ok = false;
+    *number = parser.value(option).toInt(&ok);
+    if (!ok || *number < minimum) {
+        KTConsole::failUsage(QStringLiteral("'%1' is no number for %2%3")
+                                 .arg(parser.value(option),
+                                      option.size() == 1 ? QStringLiteral("-") : QStringLiteral("--"),
+                                      option));
+        return false;
+    }
+    return true;
+}
+
 /** What is to be done; an exit code for wrong usage, which is reported. */
 std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options *options)
 {
@@ -142,7 +157,7 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     const QStringList colors {AUTO, ALWAYS, NEVER};
     if (!colors.contains(color))
         return KTCommandLine::failChoice(COLOR, color, colors);
-    options->isColored = color == ALWAYS || (color == AUTO && isTerminalColored());
+    options->isColored = color == ALWAYS || (color == AUTO && KTConsole::isColored());
     if (const auto code = readFailOn(parser.value(FAIL_ON), &options->failOn))
         return code;
     const QStringList ignored = parser.values(IGNORE).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts);
@@ -157,13 +172,10 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
         options->severities.raiseToError(KTCheckRules::find(name)->rule);
     options->severities.setPedantic(parser.isSet(PEDANTIC));
     options->isQuiet = parser.isSet(QUIET);
-    bool ok = true;
-    if (parser.isSet(MAX_FINDINGS))
-        options->maximum = parser.value(MAX_FINDINGS).toInt(&ok);
-    if (!ok || options->maximum < 0) {
-        return KTCommandLine::failUsage(
-            QStringLiteral("'%1' is no number for --%2").arg(parser.value(MAX_FINDINGS), MAX_FINDINGS));
-    }
+    if (parser.isSet(MAX_FINDINGS) && !readNumber(parser, MAX_FINDINGS, 0, &options->maximum))
+        return KTExitUsage;
+    if (!readNumber(parser, JOBS, 1, &options->jobs))
+        return KTExitUsage;
     return std::nullopt;
 }
 
@@ -173,7 +185,7 @@ std::optional<KTExitCode> readNames(const QString &listName, QStringList *names)
     QFile file;
     const QString error = KTFileName::open(&file, listName);
     if (!error.isEmpty())
-        return KTCommandLine::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(listName, error));
+        return KTConsole::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(listName, error));
     while (!file.atEnd()) {
         QByteArray line = file.readLine();
         while (line.endsWith('\n') || line.endsWith('\r'))
@@ -187,73 +199,114 @@ std::optional<KTExitCode> readNames(const QString &listName, QStringList *names)
 /** What the library logs about the texts that it is asked about, the findings say better. */
 void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
-/** False when the file is no catalogue, which is reported. */
-bool checkFile(KTCatalogueChecker *checker, const QString &name)
+/** Puts out the findings of all files as they come, and what there is to say about each file. */
+class Output
 {
-    QFile file;
-    const QString error = KTFileName::open(&file, name);
-    if (error.isEmpty())
-        return checker->check(name, &file);
-    checker->reportUnreadable(name, error);
-    return false;
+public:
+    explicit Output(const Options &options)
+        : myOptions(options)
+        , myWriter(KTFindingWriter::create(options.format, options.isColored))
+        , myProgress(!options.isQuiet)
+    {
+        myWriter->begin();
+    }
+
+    KTProgressLine &progress() { return myProgress; }
+
+    void write(const KTFinding &finding)
+    {
+        myCounts.add(finding.severity);
+        myIsFailed = myIsFailed || (myOptions.failOn && finding.severity >= *myOptions.failOn);
+        if (myWritten == myOptions.maximum)
+            return;
+        ++myWritten;
+        myProgress.clear();
+        myWriter->write(finding);
+    }
+
+    /** False when there is no use in going on, because nothing more can be written. */
+    bool endFile(const QString &name, bool isReadable)
+    {
+        KTFindingCounts counts = std::exchange(myCounts, KTFindingCounts());
+        if (!isReadable)
+            ++counts.unreadable;
+        myTotal.add(counts);
+        myProgress.clear();
+        if (!myWriter->flush())
+            return false;
+        if (!myOptions.isQuiet)
+            KTConsole::note(QStringLiteral("%1: %2").arg(name, counts.toText()));
+        return true;
+    }
+
+    KTExitCode end(int files)
+    {
+        myWriter->end(myTotal);
+        // A reader that has seen enough needs no message.
+        if (!myWriter->flush())
+            return myWriter->isReaderGone() ? KTExitUnwritable : KTConsole::failToWrite();
+        if (!myOptions.isQuiet) {
+            QString text = QStringLiteral("total: %1").arg(myTotal.toText());
+            if (myWritten < myTotal.total())
+                text += QStringLiteral(", %1 of them not shown").arg(myTotal.total() - myWritten);
+            if (myTotal.unreadable > 0)
+                text += QStringLiteral("; %1 of %2 files unreadable").arg(myTotal.unreadable).arg(files);
+            KTConsole::note(text);
+        }
+        if (myTotal.unreadable > 0)
+            return KTExitUnreadable;
+        return myIsFailed ? KTExitFindings : KTExitSuccess;
+    }
+
+private:
+    const Options &myOptions;
+    const std::unique_ptr<KTFindingWriter> myWriter;
+    KTProgressLine myProgress;
+    /** Of the present file. */
+    KTFindingCounts myCounts;
+    KTFindingCounts myTotal;
+    int myWritten = 0;
+    bool myIsFailed = false;
+};
+
+void checkOneByOne(const QStringList &names, const Options &options, Output *output)
+{
+    QString name;
+    KTCatalogueChecker checker([output](const KTFinding &finding) { output->write(finding); },
+                               options.severities);
+    checker.setListener([&](int articles) {
+        if (output->progress().isDue())
+            output->progress().show(QStringLiteral("%1: %2 articles").arg(name, QString::number(articles)));
+    });
+    for (const QString &file : names) {
+        name = file;
+        if (!output->endFile(name, KTParallelCheck::checkFile(&checker, name)))
+            return;
+    }
+}
+
+void checkAtOnce(const QStringList &names, const Options &options, Output *output)
+{
+    KTParallelCheck check(names, options.severities, options.jobs);
+    for (int i = 0; i < names.size(); ++i) {
+        if (output->progress().isDue())
+            output->progress().show(QStringLiteral("%1 of %2 files").arg(i).arg(names.size()));
+        const KTParallelCheck::Result result = check.take(i);
+        for (const KTFinding &finding : result.findings)
+            output->write(finding);
+        if (!output->endFile(names.at(i), result.isReadable))
+            return;
+    }
 }
 
 KTExitCode checkFiles(const QStringList &names, const Options &options)
 {
-    const auto writer = KTFindingWriter::create(options.format, options.isColored);
-    KTProgressLine progress(!options.isQuiet);
-    KTFindingCounts total;
-    KTFindingCounts ofFile;
-    QString name;
-    bool isFailed = false;
-    int written = 0;
-    KTCatalogueChecker checker(
-        [&](const KTFinding &finding) {
-            ofFile.add(finding.severity);
-            isFailed = isFailed || (options.failOn && finding.severity >= *options.failOn);
-            if (written == options.maximum)
-                return;
-            ++written;
-            progress.clear();
-            writer->write(finding);
-        },
-        options.severities);
-    checker.setListener([&](int articles) {
-        if (progress.isDue())
-            progress.show(QStringLiteral("%1: %2 articles").arg(name, QString::number(articles)));
-    });
-
-    writer->begin();
-    for (const QString &file : names) {
-        name = file;
-        ofFile = KTFindingCounts();
-        if (!checkFile(&checker, name))
-            ++ofFile.unreadable;
-        total.add(ofFile);
-        progress.clear();
-        if (!writer->flush())
-            break;
-        if (!options.isQuiet)
-            KTCommandLine::fail(KTExitSuccess, QStringLiteral("%1: %2").arg(name, ofFile.toText()));
-    }
-    writer->end(total);
-    if (!writer->flush()) {
-        // A reader that has seen enough needs no message.
-        return writer->isReaderGone()
-            ? KTExitUnreadable
-            : KTCommandLine::fail(KTExitUnreadable, QStringLiteral("the output cannot be written"));
-    }
-    if (!options.isQuiet) {
-        QString text = QStringLiteral("total: %1").arg(total.toText());
-        if (written < total.total())
-            text += QStringLiteral(", %1 of them not shown").arg(total.total() - written);
-        if (total.unreadable > 0)
-            text += QStringLiteral("; %1 of %2 files unreadable").arg(total.unreadable).arg(names.size());
-        KTCommandLine::fail(KTExitSuccess, text);
-    }
-    if (total.unreadable > 0)
-        return KTExitUnreadable;
-    return isFailed ? KTExitFindings : KTExitSuccess;
+    Output output(options);
+    if (options.jobs == 1)
+        checkOneByOne(names, options, &output);
+    else
+        checkAtOnce(names, options, &output);
+    return output.end(names.size());
 }
 
 } // namespace
@@ -273,10 +326,10 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
 
     const QCommandLineParser &parser = commandLine.parser();
     if (parser.isSet(LIST_RULES))
-        return KTCommandLine::print(ruleList());
+        return KTConsole::print(ruleList());
     if (parser.isSet(EXPLAIN)) {
         const KTRuleRow *const row = findRule(parser.value(EXPLAIN));
-        return row ? KTCommandLine::print(explanation(*row)) : KTExitUsage;
+        return row ? KTConsole::print(explanation(*row)) : KTExitUsage;
     }
 
     Options options;
@@ -288,7 +341,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
             return *code;
     }
     if (names.isEmpty() && !parser.isSet(FILES_FROM))
-        return KTCommandLine::failUsage(QStringLiteral("'check' needs a file"));
+        return KTConsole::failUsage(QStringLiteral("'check' needs a file"));
 
     const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
     const KTExitCode code = checkFiles(names, options);

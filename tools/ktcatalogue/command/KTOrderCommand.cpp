@@ -1,8 +1,9 @@
 #include "KTOrderCommand.h"
 
 #include "KTArticleReport.h"
-#include "KTCatalogueFile.h"
+#include "KTArticleRequest.h"
 #include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
 
@@ -20,7 +21,7 @@ QString text(const KTOrderDraft &order)
 {
     const auto line = [](const char *label, const QString &value) {
         return QStringLiteral("%1  %2\n")
-            .arg(QString::fromLatin1(label).leftJustified(12), KTTerminalText::visible(value));
+            .arg(QString::fromLatin1(label).leftJustified(12), KTTerminalText::escaped(value));
     };
     return line("article", order.article().articleId().toString())
         + line("product type", order.article().productType().orderTxtName())
@@ -42,7 +43,7 @@ QString json(const KTOrderDraft &order)
     if (order.pages())
         object.insert(QStringLiteral("pages"), *order.pages());
     order.article().articleId().toJSON(object);
-    return KTTerminalText::visibleJson(QString::fromUtf8(QJsonDocument(object).toJson()));
+    return KTTerminalText::escapedJson(QString::fromUtf8(QJsonDocument(object).toJson()));
 }
 
 /** The choices as pairs; one without a key is reported as wrong usage. */
@@ -52,7 +53,7 @@ std::optional<KTArticleVariants> choices(const QStringList &texts)
     for (const QString &text : texts) {
         const int separator = text.indexOf(QLatin1Char('='));
         if (separator <= 0) {
-            KTCommandLine::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(text));
+            KTConsole::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(text));
             return std::nullopt;
         }
         choices.insert(text.left(separator), text.mid(separator + 1));
@@ -70,46 +71,37 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
             "Starts from the preselected options of an article, applies the choices, and writes the order "
             "text, the MCF and the production form."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 30 --choose alcolor=red"));
-    const QCommandLineOption articleOption(
-        QStringLiteral("article"), QStringLiteral("The number of the article."), QStringLiteral("ID"));
-    const QCommandLineOption pagesOption(QStringLiteral("pages"), QStringLiteral("The page count."),
-                                         QStringLiteral("N"));
+    KTArticleRequest request(&commandLine, KTArticleRequest::Article::Needed,
+                             QStringLiteral("The page count."));
     const QCommandLineOption chooseOption(
         QStringLiteral("choose"),
         QStringLiteral("Chooses an option that the article offers; may be given several times."),
         QStringLiteral("KEY=VALUE"));
-    commandLine.parser().addOptions({articleOption, pagesOption, chooseOption});
+    commandLine.parser().addOption(chooseOption);
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
-    const std::optional<int> wanted = commandLine.number(articleOption);
-    if (!wanted)
-        return KTExitUsage;
-    const std::optional<QList<int>> pages = commandLine.numbers(pagesOption);
-    if (!pages)
-        return KTExitUsage;
+    if (const auto code = request.read())
+        return *code;
     const std::optional<KTArticleVariants> chosen = choices(commandLine.parser().values(chooseOption));
     const std::optional<QString> format = chosen ? commandLine.format() : std::nullopt;
     if (!format)
         return KTExitUsage;
 
-    std::optional<KTArticle> article;
-    if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
-        return *failure;
-    if (!article)
-        return commandLine.failNoArticle(*wanted);
-
-    KTOrderDraft order(*article);
+    KTArticle article;
+    if (const auto code = request.readArticle(&article))
+        return *code;
+    KTOrderDraft order(article);
     for (const QString &key : chosen->keys()) {
         if (const auto refusal = order.choose(key, chosen->value(key, QString())))
-            return commandLine.failArticle(*wanted, refusal->toString());
+            return commandLine.failArticle(*request.articleId(), refusal->toString());
     }
-    if (!pages->isEmpty()) {
-        if (const auto refusal = order.setPages(pages->constLast()))
-            return commandLine.failArticle(*wanted, refusal->toString());
+    if (request.pages()) {
+        if (const auto refusal = order.setPages(*request.pages()))
+            return commandLine.failArticle(*request.articleId(), refusal->toString());
     }
     KTSpool spool;
     spool.write(*format == JSON_FORMAT ? json(order) : text(order));
-    return KTCommandLine::deliver(&spool);
+    return KTConsole::deliver(&spool);
 }

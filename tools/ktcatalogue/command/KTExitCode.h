@@ -7,7 +7,9 @@ enum KTExitCode : int {
     KTExitUnanswerable = 1,
     /** Something is wrong with a catalogue. */
     KTExitFindings = 1,
-    /** A file cannot be read or written, or is no catalogue. */
+    /** A file cannot be read, or is no catalogue. */
     KTExitUnreadable = 2,
+    /** A file, or standard output, cannot be written. */
+    KTExitUnwritable = 2,
     KTExitUsage = 64,
 };

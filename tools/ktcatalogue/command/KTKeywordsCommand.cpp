@@ -1,6 +1,7 @@
 #include "KTKeywordsCommand.h"
 
 #include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTNearestWord.h"
 
 #include <KTCatalogueFormat.h>
@@ -188,9 +189,9 @@ KTExitCode failClass(const QString &name)
     for (const KTClassification &row : KTClassification::all())
         names.append(row.className());
     const QString nearest = KTNearestWord::find(name, names);
-    return KTCommandLine::failUsage(QStringLiteral("unknown class '%1', ").arg(name)
-                                    + (nearest.isNull() ? QStringLiteral("there are ") + names.join(SEPARATOR)
-                                                        : QStringLiteral("did you mean '%1'?").arg(nearest)));
+    return KTConsole::failUsage(QStringLiteral("unknown class '%1', ").arg(name)
+                                + (nearest.isNull() ? QStringLiteral("there are ") + names.join(SEPARATOR)
+                                                    : QStringLiteral("did you mean '%1'?").arg(nearest)));
 }
 
 } // namespace
@@ -217,7 +218,7 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
 
     const QStringList operands = commandLine.parser().positionalArguments().mid(1);
     if (operands.size() > 1)
-        return KTCommandLine::failUsage(QStringLiteral("'keywords' takes one class"));
+        return KTConsole::failUsage(QStringLiteral("'keywords' takes one class"));
     QVector<const KTClassification *> rows;
     for (const KTClassification &row : KTClassification::all()) {
         if (operands.isEmpty() || isNamed(row, operands.constFirst()))
@@ -228,5 +229,5 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
     const std::optional<QString> format = commandLine.format();
     if (!format)
         return KTExitUsage;
-    return KTCommandLine::print(FORMATS[formats.indexOf(*format)].format(rows));
+    return KTConsole::print(FORMATS[formats.indexOf(*format)].format(rows));
 }

@@ -1,13 +1,8 @@
 #include "KTCommandLine.h"
 
-#include "KTFileName.h"
-#include "KTSpool.h"
-#include "KTTerminalText.h"
+#include "KTConsole.h"
 
 #include <QCoreApplication>
-#include <QFile>
-
-#include <cstdio>
 
 namespace {
 const QString HELP_OPTION = QStringLiteral("help");
@@ -58,11 +53,11 @@ std::optional<QString> KTCommandLine::format() const
 std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
 {
     if (!myParser.parse(QStringList(QCoreApplication::applicationName()) + arguments))
-        return failUsage(myParser.errorText());
+        return KTConsole::failUsage(myParser.errorText());
     if (myParser.isSet(HELP_OPTION))
-        return print(helpText());
+        return KTConsole::print(helpText());
     if (myFiles == Files::One && myParser.positionalArguments().size() != 2)
-        return failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
+        return KTConsole::failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
     return std::nullopt;
 }
 
@@ -96,7 +91,7 @@ std::optional<int> KTCommandLine::number(const QCommandLineOption &option) const
         return std::nullopt;
     if (!values->isEmpty())
         return values->constLast();
-    failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, option.names().constFirst()));
+    KTConsole::failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, option.names().constFirst()));
     return std::nullopt;
 }
 
@@ -107,55 +102,30 @@ std::optional<QList<int>> KTCommandLine::numbers(const QCommandLineOption &optio
         bool ok = false;
         numbers.append(text.toInt(&ok));
         if (!ok) {
-            failUsage(QStringLiteral("'%1' is no number for --%2").arg(text, option.names().constFirst()));
+            KTConsole::failUsage(
+                QStringLiteral("'%1' is no number for --%2").arg(text, option.names().constFirst()));
             return std::nullopt;
         }
     }
     return numbers;
 }
 
-KTExitCode KTCommandLine::fail(KTExitCode code, const QString &message)
-{
-    const QByteArray line = KTFileName::toBytes(KTTerminalText::visible(message)) + '\n';
-    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
-    return code;
-}
-
-KTExitCode KTCommandLine::failUsage(const QString &message)
-{
-    const QString name = QCoreApplication::applicationName();
-    return fail(KTExitUsage, QStringLiteral("%1: %2; see '%1 --help'").arg(name, message));
-}
-
 KTExitCode KTCommandLine::failChoice(const QString &option, const QString &value, const QStringList &choices)
 {
-    return failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")
-                         .arg(value, option, choices.join(QStringLiteral(", "))));
+    return KTConsole::failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")
+                                    .arg(value, option, choices.join(QStringLiteral(", "))));
 }
 
 KTExitCode KTCommandLine::failNoArticle(int articleId) const
 {
-    return fail(KTExitUnanswerable,
-                QStringLiteral("%1: there is no article %2").arg(fileName(), QString::number(articleId)));
+    return KTConsole::fail(
+        KTExitUnanswerable,
+        QStringLiteral("%1: there is no article %2").arg(fileName(), QString::number(articleId)));
 }
 
 KTExitCode KTCommandLine::failArticle(int articleId, const QString &objection) const
 {
-    return fail(KTExitUnanswerable,
-                QStringLiteral("%1: article %2 %3").arg(fileName(), QString::number(articleId), objection));
-}
-
-KTExitCode KTCommandLine::print(const QString &text)
-{
-    KTSpool spool;
-    spool.write(text);
-    return deliver(&spool);
-}
-
-KTExitCode KTCommandLine::deliver(KTSpool *spool)
-{
-    QFile output;
-    if (output.open(stdout, QIODevice::WriteOnly) && spool->deliver(&output) && output.flush())
-        return KTExitSuccess;
-    return fail(KTExitUnreadable, QStringLiteral("the output cannot be written"));
+    return KTConsole::fail(
+        KTExitUnanswerable,
+        QStringLiteral("%1: article %2 %3").arg(fileName(), QString::number(articleId), objection));
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "KTExitCode.h"
-#include "KTProgressLine.h"
 
 #include <KTArticle.h>
 #include <KTCatalogueReader.h>

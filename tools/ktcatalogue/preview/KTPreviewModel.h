@@ -15,8 +15,8 @@ class KTArticle;
 struct KTPreviewModel
 {
     /** Longer sides are refused: they are mistakes, and would leave nothing to be seen of the rest. */
-    static constexpr int MAXIMUM_LENGTH = 50000;
-    static constexpr int MINIMUM_LENGTH = 10;
+    static constexpr int MAX_LENGTH = 50000;
+    static constexpr int MIN_LENGTH = 10;
 
     /** One side of a cover, or a page. */
     struct Panel

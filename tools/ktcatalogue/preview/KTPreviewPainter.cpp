@@ -15,14 +15,14 @@ constexpr int MARGIN = 120;
 constexpr int TITLE_HEIGHT = 190;
 constexpr int DIMENSION_STRIP = 75;
 constexpr int FIGURE_GAP = 50;
-constexpr int MOST_FIGURE_HEIGHT = 1500;
+constexpr int MAX_FIGURE_HEIGHT = 1500;
 constexpr int LEAST_FIGURE_HEIGHT = 300;
 constexpr int ROW_HEIGHT = 48;
 constexpr int COLUMNS = 4;
 constexpr int COLUMN_GAP = 50;
 constexpr int LEAST_ROWS_PER_COLUMN = 8;
-constexpr int MOST_ROWS_OF_WHOLE_GROUPS = 24;
-constexpr int MOST_ROWS_PER_COLUMN = 60;
+constexpr int MAX_ROWS_OF_WHOLE_GROUPS = 24;
+constexpr int MAX_ROWS_PER_COLUMN = 60;
 constexpr int SYMBOL_WIDTH = 90;
 constexpr int SYMBOL_HEIGHT = 32;
 constexpr int ARROW = 16;
@@ -35,7 +35,7 @@ constexpr int TEXT_DISTANCE = 8;
 constexpr double CONTENT_WIDTH = SHEET_WIDTH - 2 * MARGIN;
 constexpr double COLUMN_WIDTH = (CONTENT_WIDTH - (COLUMNS - 1) * COLUMN_GAP) / COLUMNS;
 /** Of a placeholder image on the sheet; more would only make the file larger. */
-constexpr int MOST_IMAGE_PIXELS = 400;
+constexpr int MAX_IMAGE_PIXELS = 400;
 constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 
 constexpr double SCALES[] = {1.0,  1.5,  2.0,  2.5,  3.0,  4.0,  5.0,   6.0,   8.0,   10.0,  15.0,
@@ -159,7 +159,7 @@ KTPreviewPainter::KTPreviewPainter(const KTPreviewModel &model)
     const double room = CONTENT_WIDTH - myModel.figures.size() * 2 * DIMENSION_STRIP
         - (myModel.figures.size() - 1) * FIGURE_GAP;
     const auto fits
-        = [=](double scale) { return width / scale <= room && height / scale <= MOST_FIGURE_HEIGHT; };
+        = [=](double scale) { return width / scale <= room && height / scale <= MAX_FIGURE_HEIGHT; };
     const auto *const scale = std::find_if(std::begin(SCALES), std::end(SCALES), fits);
     if (scale != std::end(SCALES))
         myScale = *scale;
@@ -291,7 +291,7 @@ void KTPreviewPainter::paintBarcode(QPainter *painter, const KTPreviewModel::Bar
     if (barcode.image.isNull()) {
         hatch(painter, rect);
     } else {
-        const QSize most(MOST_IMAGE_PIXELS, MOST_IMAGE_PIXELS);
+        const QSize most(MAX_IMAGE_PIXELS, MAX_IMAGE_PIXELS);
         const bool isLarge = barcode.image.width() > most.width() || barcode.image.height() > most.height();
         painter->drawImage(rect,
                            isLarge ? barcode.image.scaled(most, Qt::KeepAspectRatio, Qt::SmoothTransformation)
@@ -476,14 +476,14 @@ QVector<KTPreviewPainter::PlacedRow> KTPreviewPainter::placedLegend(int *rowsPer
     const QVector<LegendRow> rows = legend();
     QVector<PlacedRow> placed;
     for (const bool keepsGroups : {true, false}) {
-        const int most = keepsGroups ? MOST_ROWS_OF_WHOLE_GROUPS : MOST_ROWS_PER_COLUMN;
+        const int most = keepsGroups ? MAX_ROWS_OF_WHOLE_GROUPS : MAX_ROWS_PER_COLUMN;
         for (*rowsPerColumn = LEAST_ROWS_PER_COLUMN; *rowsPerColumn <= most; ++*rowsPerColumn) {
             placed = placedRows(rows, *rowsPerColumn, keepsGroups);
             if (placed.size() == rows.size())
                 return placed;
         }
     }
-    *rowsPerColumn = MOST_ROWS_PER_COLUMN;
+    *rowsPerColumn = MAX_ROWS_PER_COLUMN;
     placed.last().row
         = {LegendRow::Text, QStringLiteral("... and %1 more").arg(rows.size() - placed.size() + 1),
            QString(),       QPen(),

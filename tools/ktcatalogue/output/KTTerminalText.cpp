@@ -21,7 +21,7 @@ bool isObeyed(QChar character)
     }
 }
 
-QString escaped(QChar character)
+QString codeOf(QChar character)
 {
     return QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
 }
@@ -43,7 +43,7 @@ QString escapedWhere(const QString &text, Predicate isEscaped)
         if (at->isHighSurrogate() && at + 1 != text.cend() && at[1].isLowSurrogate()) {
             ++at;
         } else if ((at->isSurrogate() && !KTFileName::isRawByte(*at)) || isEscaped(*at)) {
-            result.append(pending, static_cast<int>(at - pending)).append(escaped(*at));
+            result.append(pending, static_cast<int>(at - pending)).append(codeOf(*at));
             pending = at + 1;
         }
     }
@@ -54,12 +54,12 @@ QString escapedWhere(const QString &text, Predicate isEscaped)
 
 } // namespace
 
-QString KTTerminalText::visible(const QString &text)
+QString KTTerminalText::escaped(const QString &text)
 {
     return escapedWhere(text, isObeyed);
 }
 
-QString KTTerminalText::visibleJson(const QString &json)
+QString KTTerminalText::escapedJson(const QString &json)
 {
     // The line breaks of the document itself; those inside its texts are escaped already.
     return escapedWhere(

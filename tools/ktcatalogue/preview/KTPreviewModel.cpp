@@ -10,12 +10,12 @@
 #include <algorithm>
 #include <cmath>
 
-using KTTerminalText::visible;
+using KTTerminalText::escaped;
 
 namespace {
 
 /** More pages with barcodes would make the cover too small. */
-constexpr int MOST_INNER_PAGES = 2;
+constexpr int MAX_INNER_PAGES = 2;
 constexpr int COVER_PAGE = 0;
 
 // The first kind that an article has is what its preview shows; any page is better than none.
@@ -34,20 +34,20 @@ QString millimeters(const QSizeF &size)
 
 bool isDrawable(double length, double minimum)
 {
-    return std::isfinite(length) && length >= minimum && length <= KTPreviewModel::MAXIMUM_LENGTH;
+    return std::isfinite(length) && length >= minimum && length <= KTPreviewModel::MAX_LENGTH;
 }
 
 bool isDrawable(const QSize &size)
 {
-    return isDrawable(size.width(), KTPreviewModel::MINIMUM_LENGTH)
-        && isDrawable(size.height(), KTPreviewModel::MINIMUM_LENGTH);
+    return isDrawable(size.width(), KTPreviewModel::MIN_LENGTH)
+        && isDrawable(size.height(), KTPreviewModel::MIN_LENGTH);
 }
 
 QString objectionTo(const QString &part, const QString &size)
 {
     return QStringLiteral("has a %1 of %2 mm; a preview shows sides from %3 to %4 mm")
-        .arg(part, size, KTMillimeterText::text(KTPreviewModel::MINIMUM_LENGTH),
-             KTMillimeterText::text(KTPreviewModel::MAXIMUM_LENGTH));
+        .arg(part, size, KTMillimeterText::text(KTPreviewModel::MIN_LENGTH),
+             KTMillimeterText::text(KTPreviewModel::MAX_LENGTH));
 }
 
 /** What cannot be drawn of the page; empty for nothing. */
@@ -60,7 +60,7 @@ QString objectionTo(const Page &page)
     for (const int margin : {bleed.top(), bleed.bottom(), bleed.left(), bleed.right()}) {
         if (!isDrawable(margin, 0.0))
             return QStringLiteral("has a bleed of %1 mm; a preview shows 0.0 to %2 mm")
-                .arg(KTMillimeterText::text(margin), KTMillimeterText::text(KTPreviewModel::MAXIMUM_LENGTH));
+                .arg(KTMillimeterText::text(margin), KTMillimeterText::text(KTPreviewModel::MAX_LENGTH));
     }
     const QSize slipcase = page.size.usableSlipcaseCoverSize();
     if (slipcase != QSize(-1, -1) && !isDrawable(slipcase))
@@ -143,11 +143,11 @@ QVector<KTPreviewModel::OptionGroup> groupsOf(const KTConfiguredArticleVariantLi
         KTPreviewModel::OptionGroup &group = groups[option.key()];
         if (group.options.isEmpty())
             group.name = option.keyName().isEmpty()
-                ? visible(option.key())
-                : QStringLiteral("%1 (%2)").arg(visible(option.keyName()), visible(option.key()));
+                ? escaped(option.key())
+                : QStringLiteral("%1 (%2)").arg(escaped(option.keyName()), escaped(option.key()));
         const QString name = option.visibleName().isEmpty() ? option.value() : option.visibleName();
         group.options.append(
-            {visible(name), option.color().isValid() ? option.color() : QColor(Qt::transparent),
+            {escaped(name), option.color().isValid() ? option.color() : QColor(Qt::transparent),
              defaults.value(option.key(), QString()) == option.value(), option.isNotAccountable()});
     }
     return groups.values().toVector();
@@ -201,7 +201,7 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
             continue;
         }
         if (!figureOfPage.contains(pageNr)) {
-            if (!inner || figureOfPage.size() > MOST_INNER_PAGES) {
+            if (!inner || figureOfPage.size() > MAX_INNER_PAGES) {
                 note(inner ? QStringLiteral("not drawn") : QStringLiteral("its size is not known"));
                 continue;
             }
@@ -248,7 +248,7 @@ std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, i
             : 0.0;
         if (!isDrawable(width, 0.0)) {
             *objection = QStringLiteral("has a spine of %1 mm; a preview shows 0.0 to %2 mm")
-                             .arg(KTMillimeterText::text(width), KTMillimeterText::text(MAXIMUM_LENGTH));
+                             .arg(KTMillimeterText::text(width), KTMillimeterText::text(MAX_LENGTH));
             return std::nullopt;
         }
         model.figures.append(spreadOf(*back, *front, width));
@@ -261,7 +261,7 @@ std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, i
     }
 
     model.title
-        = QStringLiteral("%1  %2").arg(article.articleId().toString(), visible(article.name())).trimmed();
+        = QStringLiteral("%1  %2").arg(article.articleId().toString(), escaped(article.name())).trimmed();
     model.subtitle = QStringLiteral("%1 %2, %3")
                          .arg(pages)
                          .arg(pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"))

@@ -11,9 +11,9 @@ namespace KTTerminalText {
  * file names that are not UTF-8 stay what they are, see KTFileName: the user has named the file so. A text
  * without anything to escape is returned as it is, without a copy.
  */
-QString visible(const QString &text);
+QString escaped(const QString &text);
 
 /** JSON text with the same characters escaped; it stays the same JSON. */
-QString visibleJson(const QString &json);
+QString escapedJson(const QString &json);
 
 } // namespace KTTerminalText

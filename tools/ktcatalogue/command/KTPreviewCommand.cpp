@@ -1,7 +1,8 @@
 #include "KTPreviewCommand.h"
 
-#include "KTCatalogueFile.h"
+#include "KTArticleRequest.h"
 #include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTPreviewPainter.h"
 
@@ -141,51 +142,41 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
             "Draws the cover of an article to scale: usable area, bleed, spine, slipcase cover and "
             "barcodes, with dimensions in millimetres and the options on offer."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 90 -o cover.svg"));
-    const QCommandLineOption articleOption(
-        QStringLiteral("article"), QStringLiteral("The number of the article."), QStringLiteral("ID"));
-    const QCommandLineOption pagesOption(QStringLiteral("pages"),
-                                         QStringLiteral("The page count; the least one by default."),
-                                         QStringLiteral("N"));
+    KTArticleRequest request(&commandLine, KTArticleRequest::Article::Needed,
+                             QStringLiteral("The page count; the least one by default."));
     const QCommandLineOption outputOption(
         {QStringLiteral("o"), QStringLiteral("output")},
         QStringLiteral(
             "Writes to OUT, whose ending says the format: .svg, .png or .pdf. A file that is there "
             "is replaced once the drawing is complete."),
         QStringLiteral("OUT"));
-    commandLine.parser().addOptions({articleOption, pagesOption, outputOption});
+    commandLine.parser().addOption(outputOption);
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
-    const std::optional<int> wanted = commandLine.number(articleOption);
-    if (!wanted)
-        return KTExitUsage;
-    const std::optional<QList<int>> pages = commandLine.numbers(pagesOption);
-    if (!pages)
-        return KTExitUsage;
+    if (const auto code = request.read())
+        return *code;
     const QString output = commandLine.parser().value(outputOption);
     if (output.isEmpty())
-        return KTCommandLine::failUsage(QStringLiteral("'preview' needs -o OUT"));
+        return KTConsole::failUsage(QStringLiteral("'preview' needs -o OUT"));
     const FormatRow *const format = formatOf(output);
     if (!format)
-        return KTCommandLine::failUsage(
-            QStringLiteral("'%1' does not end in .svg, .png or .pdf").arg(output));
+        return KTConsole::failUsage(QStringLiteral("'%1' does not end in .svg, .png or .pdf").arg(output));
 
-    std::optional<KTArticle> article;
-    if (const auto failure = KTCatalogueFile(commandLine.fileName()).readArticle(*wanted, &article))
-        return *failure;
-    if (!article)
-        return commandLine.failNoArticle(*wanted);
-    QString objection = pages->isEmpty() ? QString() : objectionToPages(*article, pages->constLast());
+    KTArticle article;
+    if (const auto code = request.readArticle(&article))
+        return *code;
+    QString objection = request.pages() ? objectionToPages(article, *request.pages()) : QString();
     std::optional<KTPreviewModel> model;
     if (objection.isEmpty()) {
-        const int count = pages->isEmpty() ? article->pageCounts().minPages() : pages->constLast();
-        model = KTPreviewModel::create(*article, count, &objection);
+        model = KTPreviewModel::create(article, request.pages().value_or(article.pageCounts().minPages()),
+                                       &objection);
     }
     if (!model)
-        return commandLine.failArticle(*wanted, objection);
+        return commandLine.failArticle(*request.articleId(), objection);
 
     const auto fail = [&output](const QString &reason) {
-        return KTCommandLine::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(output, reason));
+        return KTConsole::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(output, reason));
     };
     if (KTFileName::areSame(output, commandLine.fileName()))
         return fail(QStringLiteral("it is the catalogue"));

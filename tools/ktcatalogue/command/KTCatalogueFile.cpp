@@ -1,6 +1,6 @@
 #include "KTCatalogueFile.h"
 
-#include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTFileName.h"
 
 KTCatalogueFile::KTCatalogueFile(const QString &name)
@@ -49,14 +49,13 @@ std::optional<KTExitCode> KTCatalogueFile::readArticle(int articleId, std::optio
 std::optional<KTExitCode> KTCatalogueFile::reportFailure() const
 {
     if (!myReader) {
-        return KTCommandLine::fail(KTExitUnreadable,
-                                   QStringLiteral("%1: error: %2").arg(myName, myOpenError));
+        return KTConsole::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(myName, myOpenError));
     }
     const KTCatalogueError error = myReader->error();
     if (error.kind == KTCatalogueErrorKind::None)
         return std::nullopt;
-    return KTCommandLine::fail(KTExitUnreadable,
-                               QStringLiteral("%1:%2:%3: error: %4")
-                                   .arg(myName, QString::number(error.position.line),
-                                        QString::number(error.position.column), error.text));
+    return KTConsole::fail(KTExitUnreadable,
+                           QStringLiteral("%1:%2:%3: error: %4")
+                               .arg(myName, QString::number(error.position.line),
+                                    QString::number(error.position.column), error.text));
 }

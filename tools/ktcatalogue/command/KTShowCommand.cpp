@@ -1,8 +1,10 @@
 #include "KTShowCommand.h"
 
 #include "KTArticleReport.h"
+#include "KTArticleRequest.h"
 #include "KTCatalogueFile.h"
 #include "KTCommandLine.h"
+#include "KTConsole.h"
 #include "KTSpool.h"
 
 namespace {
@@ -20,49 +22,38 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
         QStringLiteral("Shows what the library makes of each article: its number, classifications, "
                        "page counts, layout and options, the default choice and the box styles."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 30"));
-    const QCommandLineOption articleOption(QStringLiteral("article"),
-                                           QStringLiteral("Only the article with this number."),
-                                           QStringLiteral("ID"));
-    const QCommandLineOption pagesOption(QStringLiteral("pages"),
-                                         QStringLiteral("What becomes of a wish for N pages, and how wide "
-                                                        "the spine is then; may be given several times."),
-                                         QStringLiteral("N"));
-    commandLine.parser().addOptions({articleOption, pagesOption});
+    KTArticleRequest request(
+        &commandLine, KTArticleRequest::Article::Optional,
+        QStringLiteral("What becomes of a wish for N pages, and how wide the spine is then; "
+                       "may be given several times."));
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
         return *code;
-
-    const std::optional<QList<int>> wanted = commandLine.numbers(articleOption);
-    if (!wanted)
-        return KTExitUsage;
-    const std::optional<QList<int>> pageCounts = commandLine.numbers(pagesOption);
-    if (!pageCounts)
-        return KTExitUsage;
-
+    if (const auto code = request.read())
+        return *code;
     const std::optional<QString> format = commandLine.format();
     if (!format)
         return KTExitUsage;
 
     const bool isJson = *format == JSON_FORMAT;
-    const bool isOneArticle = !wanted->isEmpty();
     KTSpool spool;
     bool isFirst = true;
     const auto show = [&](const KTCatalogueArticle &article) {
         const KTArticle content(article);
         if (isJson)
             spool.write((isFirst ? JSON_BEGIN : QStringLiteral(",\n"))
-                        + KTArticleReport::toJSON(content, *pageCounts));
+                        + KTArticleReport::toJSON(content, request.pageCounts()));
         else
             spool.write((isFirst ? QString() : QStringLiteral("\n"))
-                        + KTArticleReport::toText(content, *pageCounts));
+                        + KTArticleReport::toText(content, request.pageCounts()));
         isFirst = false;
     };
-    const auto articleId = isOneArticle ? std::make_optional(wanted->constLast()) : std::nullopt;
-    if (const auto failure = KTCatalogueFile(commandLine.fileName()).forEachArticle(show, articleId))
+    if (const auto failure
+        = KTCatalogueFile(commandLine.fileName()).forEachArticle(show, request.articleId()))
         return *failure;
-    if (isOneArticle && isFirst)
-        return commandLine.failNoArticle(wanted->constLast());
+    if (request.articleId() && isFirst)
+        return commandLine.failNoArticle(*request.articleId());
     if (isJson)
         spool.write((isFirst ? JSON_BEGIN : QString()) + QStringLiteral("\n]}\n"));
-    return KTCommandLine::deliver(&spool);
+    return KTConsole::deliver(&spool);
 }

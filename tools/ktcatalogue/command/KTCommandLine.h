@@ -8,9 +8,7 @@
 
 #include <optional>
 
-class KTSpool;
-
-/** The arguments of one sub-command, its help with an example, and how it speaks to its user. */
+/** The arguments of one sub-command, and its help with an example. */
 class KTCommandLine
 {
 public:
@@ -45,17 +43,11 @@ public:
     /** Each of the option's values as a number; one that is none is reported as wrong usage. */
     std::optional<QList<int>> numbers(const QCommandLineOption &option) const;
 
-    /** Prints one line about what went wrong to standard error and returns the code. */
-    static KTExitCode fail(KTExitCode code, const QString &message);
-    static KTExitCode failUsage(const QString &message);
     /** Reports a value that the option does not have. */
     static KTExitCode failChoice(const QString &option, const QString &value, const QStringList &choices);
     KTExitCode failNoArticle(int articleId) const;
     /** The objection is a predicate: "has no page sizes". */
     KTExitCode failArticle(int articleId, const QString &objection) const;
-    /** Prints to standard output; the exit code tells whether that worked. */
-    static KTExitCode print(const QString &text);
-    static KTExitCode deliver(KTSpool *spool);
 
 private:
     QString helpText() const;
