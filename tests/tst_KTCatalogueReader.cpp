@@ -107,6 +107,8 @@ private Q_SLOTS:
         row("longer section", "1:28: limit exceeded: a value of more than 64 KiB",
             article("<![CDATA[" + longer), 0);
         row("long comment", "", article("<!--" + longer.repeated(100) + "-->"), 1);
+        row("overlong comment", "1:28: limit exceeded: a tag, comment or instruction of more than 16 MiB",
+            article("<!--" + longer.repeated(300) + "-->"), 0);
         QByteArray most = "<e";
         for (int i = 0; i < KTCatalogueReader::MAX_ATTRIBUTES; ++i)
             most += " a" + QByteArray::number(i) + "=''";

@@ -232,7 +232,7 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     const int unseen = myWindow.size() - myUnseen;
     // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
     // long markup costs no time out of proportion.
-    if (!isLast && !isBroken && unseen < myUnseen)
+    if (!isLast && !isBroken && unseen < myUnseen && myWindow.size() <= MAX_MARKUP_LENGTH)
         return;
     const int begin = std::exchange(myUnseen, myWindow.size());
     // Where the text breaks off, the parser is to tell what is wrong before.
