@@ -14,7 +14,6 @@
 
 using KTCheckText::defaultOf;
 using KTCheckText::quoted;
-using KTCheckText::raw;
 using KTCheckText::suggestion;
 
 namespace {
@@ -173,7 +172,7 @@ void KTAttributeChecker::checkRead(KTElementCursor *cursor, int attribute, const
         }
         break;
     case KTAttributeType::Color:
-        if (!text.isEmpty() && !QColor::isValidColor(raw(text))) {
+        if (!text.isEmpty() && !QColor::isValidColor(shared(text))) {
             cursor->report(KTRule::UnknownColor,
                            QStringLiteral("%1 is no colour; the application takes %2")
                                    .arg(quoted(text.toString()), defaultOf(row))
@@ -187,7 +186,7 @@ void KTAttributeChecker::checkRead(KTElementCursor *cursor, int attribute, const
 void KTAttributeChecker::checkKeywords(KTElementCursor *cursor, int attribute, const KTAttributeRow &row)
 {
     const QStringView text = cursor->valueOf(attribute);
-    const auto known = myKeywordMessages.constFind({&row, raw(text)});
+    const auto known = myKeywordMessages.constFind({&row, shared(text)});
     const QString message
         = known == myKeywordMessages.constEnd() ? keywordMessage(row, text.toString()) : *known;
     if (known == myKeywordMessages.constEnd() && text.size() <= KTCheckText::MAX_WORD_LENGTH) {
@@ -197,4 +196,10 @@ void KTAttributeChecker::checkKeywords(KTElementCursor *cursor, int attribute, c
     }
     if (!message.isEmpty())
         cursor->report(KTRule::UnknownKeyword, message, attribute);
+}
+
+/** The text as one that needs no copy; valid until the next one is asked for. */
+const QString &KTAttributeChecker::shared(QStringView text)
+{
+    return myShared.setRawData(text.data(), static_cast<int>(text.size()));
 }

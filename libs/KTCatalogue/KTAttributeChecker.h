@@ -26,6 +26,8 @@ private:
     void checkRead(KTElementCursor *cursor, int attribute, const KTAttributeRow &row,
                    const KTPageCountOrganization &pageCounts);
     void checkKeywords(KTElementCursor *cursor, int attribute, const KTAttributeRow &row);
+    const QString &shared(QStringView text);
 
+    QString myShared;
     QHash<QPair<const KTAttributeRow *, QString>, QString> myKeywordMessages;
 };

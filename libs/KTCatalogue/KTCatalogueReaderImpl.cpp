@@ -263,9 +263,10 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
  */
 bool KTCatalogueReaderImpl::append(const QByteArray &text)
 {
-    const int nul = text.indexOf('\0');
-    myWindow.append(text.constData(), nul < 0 ? text.size() : nul);
-    return nul < 0;
+    const auto *const begin = text.constData();
+    const void *const nul = std::memchr(begin, '\0', static_cast<std::size_t>(text.size()));
+    myWindow.append(begin, nul ? static_cast<int>(static_cast<const char *>(nul) - begin) : text.size());
+    return !nul;
 }
 
 /** What the parser waits for the end of must not grow beyond the limits either. */

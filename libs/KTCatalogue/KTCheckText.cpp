@@ -4,11 +4,6 @@
 
 #include <algorithm>
 
-QString KTCheckText::raw(QStringView text)
-{
-    return QString::fromRawData(text.data(), static_cast<int>(text.size()));
-}
-
 QString KTCheckText::quoted(const QString &text)
 {
     return QStringLiteral("'%1'").arg(

@@ -14,8 +14,6 @@ namespace KTCheckText {
 /** A text that is longer is neither kept for the next articles nor searched for a likeness. */
 constexpr int MAX_WORD_LENGTH = 64;
 
-/** The text without a copy of its own; it must not outlive the article. */
-QString raw(QStringView text);
 /** In quotes, shortened where nobody would read on. */
 QString quoted(const QString &text);
 /** "; did you mean 'alcolor'?", or nothing. */
