@@ -30,12 +30,18 @@ constexpr QChar SEPARATOR = u'.';
 constexpr double MAX_WHOLE = 9007199254740992.0;
 const QString OPTIONS = QStringLiteral("options");
 
+QString withoutBlanksAtEnd(QString line)
+{
+    int length = line.size();
+    while (length > 0 && line.at(length - 1) == QLatin1Char(' '))
+        --length;
+    line.truncate(length);
+    return line;
+}
+
 QString line(const QString &label, const QString &text)
 {
-    QString line = INDENT + label.leftJustified(LABEL_WIDTH) + INDENT + text;
-    while (line.endsWith(QLatin1Char(' ')))
-        line.chop(1);
-    return line;
+    return withoutBlanksAtEnd(INDENT + label.leftJustified(LABEL_WIDTH) + INDENT + text);
 }
 
 QString line(const Row &row)
@@ -68,18 +74,17 @@ QStringList optionLines(const QVector<Row> &rows)
     const int valueWidth = widest(rows, [](const Row &row) { return row.label; });
     const int nameWidth = widest(rows, [](const Row &row) { return row.value; });
     QStringList lines {line(OPTIONS, QString())};
-    QMap<QString, QVector<Row>> byKey;
+    QMap<QString, QVector<const Row *>> byKey;
     for (const Row &row : rows)
-        byKey[fact(row, "key")].append(row);
+        byKey[fact(row, "key")].append(&row);
     for (auto entry = byKey.cbegin(); entry != byKey.cend(); ++entry) {
         lines.append(INDENT
-                     + line(escaped(entry.key()), escaped(fact(entry.value().constFirst(), "keyName"))));
-        for (const Row &row : entry.value()) {
-            const QString columns = QStringLiteral("%1  %2  %3  %4")
-                                        .arg(escaped(row.label).leftJustified(valueWidth),
-                                             escaped(row.value).leftJustified(nameWidth),
-                                             fact(row, "color").leftJustified(COLOR_WIDTH), row.remark);
-            lines.append(INDENT + INDENT + line(QString(), columns).mid(LABEL_WIDTH + INDENT.size()));
+                     + line(escaped(entry.key()), escaped(fact(*entry.value().constFirst(), "keyName"))));
+        for (const Row *const row : entry.value()) {
+            lines.append(
+                withoutBlanksAtEnd(INDENT + INDENT + INDENT + escaped(row->label).leftJustified(valueWidth)
+                                   + INDENT + escaped(row->value).leftJustified(nameWidth) + INDENT
+                                   + fact(*row, "color").leftJustified(COLOR_WIDTH) + INDENT + row->remark));
         }
     }
     return lines;
