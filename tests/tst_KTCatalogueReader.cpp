@@ -104,6 +104,7 @@ private Q_SLOTS:
         row("longer value", "2:6: limit exceeded: a value of more than 64 KiB",
             article("\n<e a='" + longer + "'/>"), 0);
         row("longer text", "1:28: limit exceeded: a value of more than 64 KiB", article(longer), 0);
+        row("two long texts", "", article(longer.left(length) + "<e/>" + longer.left(length)), 1);
         row("longer section", "1:28: limit exceeded: a value of more than 64 KiB",
             article("<![CDATA[" + longer), 0);
         row("long comment", "", article("<!--" + longer.repeated(100) + "-->"), 1);
@@ -151,6 +152,7 @@ private Q_SLOTS:
             KTCatalogueArticle article;
             QCOMPARE(reader.next(&article), Item::Root);
             QCOMPARE(reader.next(&article), Item::Article);
+            QVERIFY(article.root().nextSiblingElement(u"article"_s).isNull());
             QString description = described(article, file);
             QCOMPARE(reader.next(&article), Item::Article);
             description += described(article, file);

@@ -64,6 +64,7 @@ private Q_SLOTS:
         row("below", steps, INT_MIN, "cannot have -2147483648 pages; the nearest valid page counts: 26");
         row("above an uneven last step", steps, 40,
             "cannot have 40 pages; the nearest valid page counts: 38");
+        row("far above", steps, 100, "cannot have 100 pages; the nearest valid page counts: 38");
         row("no step", u"pages='20'"_s, 21, "cannot have 21 pages; the nearest valid page counts: 20");
     }
     void setsPages()
@@ -82,6 +83,8 @@ private Q_SLOTS:
         QVERIFY(!draft.setPages(26));
         QVERIFY(draft.isComplete());
         QVERIFY(KTOrderDraft(article(u"pages='20'"_s, QString())).isComplete());
+        const QString two = u"pages='20' max_pages='22' page_step='2'"_s;
+        QVERIFY(!KTOrderDraft(article(two, QString())).isComplete());
     }
 
     void readsSavedChoices()

@@ -39,10 +39,8 @@ void KTTextTracker::advance(const char *begin, const char *end)
         myPosition.offset += 2 * (countCharacters(begin, end) + countLongCharacters(begin, end));
         break;
     }
-    if (begin == end)
-        return;
     const char *line = begin;
-    if (!myIsAfterCarriageReturn && !find(begin, end, '\r')) {
+    if (!find(begin, end, '\r')) {
         while (const char *const feed = find(line, end, '\n')) {
             ++myPosition.line;
             myPosition.column = 1;
@@ -52,13 +50,11 @@ void KTTextTracker::advance(const char *begin, const char *end)
         for (const char *byte = begin; byte != end; ++byte) {
             if (*byte != '\r' && *byte != '\n')
                 continue;
-            const bool isSecond
-                = *byte == '\n' && (byte == begin ? myIsAfterCarriageReturn : byte[-1] == '\r');
+            const bool isSecond = *byte == '\n' && byte != begin && byte[-1] == '\r';
             myPosition.line += isSecond ? 0 : 1;
             myPosition.column = 1;
             line = byte + 1;
         }
-        myIsAfterCarriageReturn = end[-1] == '\r';
     }
     myPosition.column += static_cast<int>(countCharacters(line, end));
 }

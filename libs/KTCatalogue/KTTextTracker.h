@@ -18,10 +18,10 @@ public:
     }
 
     const KTFilePosition &position() const { return myPosition; }
+    /** The parts of a line end must come together. */
     void advance(const char *begin, const char *end);
 
 private:
     KTFilePosition myPosition;
     KTCharacterWidth myWidth = KTCharacterWidth::Utf8;
-    bool myIsAfterCarriageReturn = false;
 };
