@@ -50,6 +50,8 @@ public:
     static constexpr int MAX_ATTRIBUTES = 1024;
     /** Bytes, in UTF-8, of a name, of an attribute's value as it is written, and of a text between tags. */
     static constexpr int MAX_VALUE_LENGTH = 64 * 1024;
+    /** Bytes, in UTF-8, of a tag, of a comment, and of an instruction. */
+    static constexpr int MAX_MARKUP_LENGTH = 16 * 1024 * 1024;
 
     enum class Item {
         /** The end of a file without an error. */

@@ -19,8 +19,6 @@ constexpr std::string_view ARTICLE_ELEMENT = "article";
 constexpr int ROOT_DEPTH = 1;
 constexpr int ARTICLE_DEPTH = 2;
 constexpr int CHUNK_SIZE = 16 * 1024;
-/** A tag, comment or instruction is kept whole until its end. */
-constexpr int MAX_MARKUP_LENGTH = 16 * 1024 * 1024;
 // The parser tells names and values in turn.
 constexpr int ATTRIBUTE_STRIDE = 2;
 
@@ -232,7 +230,7 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     const int unseen = myWindow.size() - myUnseen;
     // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
     // long markup costs no time out of proportion.
-    if (!isLast && !isBroken && unseen < myUnseen && myWindow.size() <= MAX_MARKUP_LENGTH)
+    if (!isLast && !isBroken && unseen < myUnseen && myWindow.size() <= KTCatalogueReader::MAX_MARKUP_LENGTH)
         return;
     const int begin = std::exchange(myUnseen, myWindow.size());
     // Where the text breaks off, the parser is to tell what is wrong before.
@@ -272,10 +270,10 @@ bool KTCatalogueReaderImpl::append(const QByteArray &text)
 /** What the parser waits for the end of must not grow beyond the limits either. */
 void KTCatalogueReaderImpl::checkPending()
 {
-    if (myWindow.size() > MAX_MARKUP_LENGTH) {
+    if (myWindow.size() > KTCatalogueReader::MAX_MARKUP_LENGTH) {
         fail(Kind::LimitExceeded,
              limitText(QStringLiteral("a tag, comment or instruction of more than %1 MiB")
-                           .arg(MAX_MARKUP_LENGTH / (1024 * 1024))),
+                           .arg(KTCatalogueReader::MAX_MARKUP_LENGTH / (1024 * 1024))),
              myTracker.position());
         return;
     }

@@ -164,13 +164,8 @@ protected:
             {QStringLiteral("artifactLocation"),
              QJsonObject {{QStringLiteral("uri"), QString::fromLatin1(uri)}}}
         };
-        if (finding.range.begin.line > 0) {
-            physical.insert(QStringLiteral("region"),
-                            QJsonObject {
-                                {QStringLiteral("startLine"),   finding.range.begin.line  },
-                                {QStringLiteral("startColumn"), finding.range.begin.column},
-            });
-        }
+        if (finding.range.begin.line > 0)
+            physical.insert(QStringLiteral("region"), region(finding.range));
         QJsonObject location {
             {QStringLiteral("physicalLocation"), physical}
         };
@@ -205,6 +200,20 @@ private:
             {QStringLiteral("defaultConfiguration"),
              QJsonObject {{QStringLiteral("level"), level(row.severity)}}         },
         };
+    }
+
+    /** Without an end where only a place is known, as in a file that is cut off. */
+    static QJsonObject region(const KTFileRange &range)
+    {
+        QJsonObject region {
+            {QStringLiteral("startLine"),   range.begin.line  },
+            {QStringLiteral("startColumn"), range.begin.column},
+        };
+        if (range.length() > 0) {
+            region.insert(QStringLiteral("endLine"), range.end.line);
+            region.insert(QStringLiteral("endColumn"), range.end.column);
+        }
+        return region;
     }
 
     /** Such as "article 7301/form@color". */
