@@ -11,6 +11,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -302,7 +303,9 @@ void checkAtOnce(const QStringList &names, const Options &options, Output *outpu
 KTExitCode checkFiles(const QStringList &names, const Options &options)
 {
     Output output(options);
-    if (options.jobs == 1)
+    // What can be read only once must be read in its turn.
+    const bool hasStream = std::any_of(names.begin(), names.end(), &KTFileName::isStream);
+    if (options.jobs == 1 || hasStream)
         checkOneByOne(names, options, &output);
     else
         checkAtOnce(names, options, &output);

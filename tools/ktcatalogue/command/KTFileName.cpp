@@ -117,6 +117,12 @@ QString KTFileName::open(QFile *file, const QString &name)
     return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode) ? qt_error_string(EISDIR) : QString();
 }
 
+bool KTFileName::isStream(const QString &name)
+{
+    const auto status = statusOf(name);
+    return isStandardInput(name) || (status && !S_ISREG(status->st_mode));
+}
+
 bool KTFileName::areSame(const QString &name, const QString &other)
 {
     const auto first = statusOf(name);

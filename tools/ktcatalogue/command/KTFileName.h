@@ -28,6 +28,8 @@ QString escaped(const QString &name);
 bool isStandardInput(const QString &name);
 /** Opens the file, or standard input, for reading; says why not where that fails, else nothing. */
 [[nodiscard]] QString open(QFile *file, const QString &name);
+/** True for what can be read only once, such as a pipe. */
+bool isStream(const QString &name);
 /** True when both names, also by way of links, are those of one file that is there. */
 bool areSame(const QString &name, const QString &other);
 

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <system_error>
 #include <utility>
 
 KTParallelCheck::KTParallelCheck(const QStringList &names, const KTRuleSeverities &severities, int threads)
@@ -13,8 +15,12 @@ KTParallelCheck::KTParallelCheck(const QStringList &names, const KTRuleSeveritie
     , mySeverities(severities)
     , myResults(static_cast<std::size_t>(names.size()))
 {
-    for (int i = 0; i < std::min(threads, names.size()); ++i)
-        myThreads.emplace_back([this] { work(); });
+    try {
+        for (int i = 0; i < std::min(threads, names.size()); ++i)
+            myThreads.emplace_back([this] { work(); });
+    } catch (const std::system_error &) {
+        // The machine has no further thread to give; without any, take() does the work.
+    }
 }
 
 KTParallelCheck::~KTParallelCheck()
@@ -29,6 +35,8 @@ KTParallelCheck::~KTParallelCheck()
 
 KTParallelCheck::Result KTParallelCheck::take(int index)
 {
+    if (myThreads.empty())
+        work();
     std::optional<Result> &result = myResults.at(static_cast<std::size_t>(index));
     std::unique_lock<std::mutex> lock(myMutex);
     myIsDone.wait(lock, [&result] { return result.has_value(); });
