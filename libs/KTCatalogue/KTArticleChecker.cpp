@@ -8,6 +8,7 @@
 
 #include <algorithm>
 
+using KTCheckText::isDigit;
 using KTCheckText::quoted;
 using KTCheckText::suggestion;
 
@@ -16,11 +17,6 @@ namespace {
 using Id = KTAttributeId;
 
 constexpr int ARTICLE_INDEX = 0;
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
 
 /** The letters before the number; a code that begins with a digit is a family of its own. */
 QString priceClassFamily(const QString &code)

@@ -13,6 +13,7 @@
 #include <limits>
 
 using KTCheckText::defaultOf;
+using KTCheckText::isDigit;
 using KTCheckText::quoted;
 using KTCheckText::suggestion;
 
@@ -21,13 +22,6 @@ namespace {
 const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
 // Nine digits always fit into an int.
 constexpr int SAFE_DIGITS = 9;
-// Enough for the texts that a catalogue repeats, and no more memory than a small one takes.
-constexpr int MAX_KEPT_ANSWERS = 1000;
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
 
 bool isPlainInteger(QStringView text)
 {
@@ -190,7 +184,7 @@ void KTAttributeChecker::checkKeywords(KTElementCursor *cursor, int attribute, c
     const QString message
         = known == myKeywordMessages.constEnd() ? keywordMessage(row, text.toString()) : *known;
     if (known == myKeywordMessages.constEnd() && text.size() <= KTCheckText::MAX_WORD_LENGTH) {
-        if (myKeywordMessages.size() >= MAX_KEPT_ANSWERS)
+        if (myKeywordMessages.size() >= KTCheckText::MAX_KEPT_ANSWERS)
             myKeywordMessages.clear();
         myKeywordMessages.insert({&row, text.toString()}, message);
     }

@@ -13,9 +13,6 @@ namespace {
 
 using Id = KTAttributeId;
 
-// Enough for the images that a catalogue repeats, and no more memory than a small one takes.
-constexpr int MAX_KEPT_ANSWERS = 1000;
-
 } // namespace
 
 void KTBarcodeChecker::begin()
@@ -72,7 +69,7 @@ bool KTBarcodeChecker::hasImage(const KTBarcodeDefinition &barcode)
     if (known != myImages.constEnd())
         return *known;
     const bool hasImage = !barcode.image().isNull();
-    if (myImages.size() >= MAX_KEPT_ANSWERS)
+    if (myImages.size() >= KTCheckText::MAX_KEPT_ANSWERS)
         myImages.clear();
     if (barcode.imageName().size() <= KTCheckText::MAX_WORD_LENGTH)
         myImages.insert(barcode.imageName(), hasImage);

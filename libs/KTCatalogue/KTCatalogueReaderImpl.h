@@ -12,10 +12,10 @@
 #include <vector>
 
 /**
- * Pushes the file through libxml2 and collects what the parser tells.
+ * Pushes the file through expat and collects what it tells. Not part of the library's interface.
  *
- * The parser cannot say where attributes stand, so the bytes that it has not finished with are kept beside
- * it: what it has found to be a start tag is easy to take apart. Not part of the library's interface.
+ * The parser knows where a tag stands, but not its attributes, so the bytes that it has not finished with are
+ * kept beside it: what it has found to be a start tag is easy to take apart.
  */
 class KTCatalogueReaderImpl
 {

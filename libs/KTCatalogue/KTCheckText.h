@@ -11,8 +11,16 @@
 /** Words that the messages of several checks share. Not part of the library's interface. */
 namespace KTCheckText {
 
+/** Enough answers to keep for the texts that a catalogue repeats, and no more memory than a small one takes.
+ */
+constexpr int MAX_KEPT_ANSWERS = 1000;
 /** A text that is longer is neither kept for the next articles nor searched for a likeness. */
 constexpr int MAX_WORD_LENGTH = 64;
+
+inline bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
 
 /** In quotes, shortened where nobody would read on. */
 QString quoted(const QString &text);

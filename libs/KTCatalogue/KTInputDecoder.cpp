@@ -2,7 +2,6 @@
 
 #include <QRegularExpression>
 
-#include <array>
 #include <cerrno>
 
 namespace {
@@ -14,7 +13,6 @@ struct EncodingRow
     const char *converter;
 };
 
-// The first one of those with one converter is what messages call it.
 constexpr EncodingRow ENCODINGS[] = {
     {"UTF-8",        nullptr      },
     {"US-ASCII",     nullptr      },

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "KTFilePosition.h"
-#include "KTTextTracker.h"
 
 #include <QByteArray>
 #include <QString>

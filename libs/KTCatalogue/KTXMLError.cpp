@@ -1,5 +1,6 @@
 #include "KTXMLError.h"
 
+#include "KTCheckText.h"
 #include "KTStartTag.h"
 
 #include <algorithm>
@@ -9,17 +10,9 @@
 
 namespace {
 
+using KTCheckText::quoted;
 using KTXMLError::Answer;
 using KTXMLError::Text;
-
-constexpr int MAX_QUOTED_LENGTH = 64;
-
-/** In quotes, shortened where nobody would read on. */
-QString quoted(const QString &text)
-{
-    return QStringLiteral("'%1'").arg(
-        text.size() <= MAX_QUOTED_LENGTH ? text : text.left(MAX_QUOTED_LENGTH) + QStringLiteral("[...]"));
-}
 
 QString quoted(const char *begin, const char *end)
 {

@@ -176,7 +176,7 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
         return commandLine.failArticle(*request.articleId(), objection);
 
     const auto fail = [&output](const QString &reason) {
-        return KTConsole::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(output, reason));
+        return KTConsole::fail(KTExitUnwritable, QStringLiteral("%1: error: %2").arg(output, reason));
     };
     if (KTFileName::areSame(output, commandLine.fileName()))
         return fail(QStringLiteral("it is the catalogue"));
