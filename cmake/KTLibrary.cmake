@@ -1,25 +1,34 @@
 # How a library of ours is declared.
 
 # Headers install into one flat folder, whatever library they come from.
-set(KT_INCLUDE_DIR "${CMAKE_INSTALL_INCLUDEDIR}/KTProductBase")
+set(KT_INCLUDE_DIR "${CMAKE_INSTALL_INCLUDEDIR}/${KT_PACKAGE}")
+
+# kt_install(<rule>...): install(), unless another project that contains this one has its own rules.
+macro(kt_install)
+    if(KT_INSTALL)
+        install(${ARGN})
+    endif()
+endmacro()
 
 # kt_public_headers(<target> <scope> <header>...)
 # Declares the headers as the target's interface (installed, and compiled alone by
 # all_verify_interface_header_sets) and gives each a forwarding header without ending.
 function(kt_public_headers target scope)
     set(generated_dir "${CMAKE_CURRENT_BINARY_DIR}/include")
-    target_sources(${target} ${scope}
-        FILE_SET HEADERS BASE_DIRS "${CMAKE_CURRENT_SOURCE_DIR}" FILES ${ARGN})
+    target_sources(${target} ${scope} FILE_SET HEADERS
+        BASE_DIRS "${CMAKE_CURRENT_SOURCE_DIR}" "${generated_dir}" FILES ${ARGN})
     foreach(header IN LISTS ARGN)
+        get_filename_component(file "${header}" NAME)
         get_filename_component(class "${header}" NAME_WE)
-        file(CONFIGURE OUTPUT "${generated_dir}/${class}" CONTENT "#include \"${header}\"\n")
-        install(FILES "${generated_dir}/${class}" DESTINATION "${KT_INCLUDE_DIR}")
+        file(CONFIGURE OUTPUT "${generated_dir}/${class}" CONTENT "#include \"${file}\"\n")
+        kt_install(FILES "${generated_dir}/${class}" DESTINATION "${KT_INCLUDE_DIR}" COMPONENT Development)
     endforeach()
     target_include_directories(${target} ${scope}
         "$<BUILD_INTERFACE:${generated_dir}>"
         "$<INSTALL_INTERFACE:${KT_INCLUDE_DIR}>")
-    install(TARGETS ${target} EXPORT KTProductBaseTargets
-        FILE_SET HEADERS DESTINATION "${KT_INCLUDE_DIR}")
+    kt_install(TARGETS ${target} EXPORT KTProductBaseTargets
+        LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+        FILE_SET HEADERS DESTINATION "${KT_INCLUDE_DIR}" COMPONENT Development)
 endfunction()
 
 # kt_library(<name> HEADERS <header>... SOURCES <source>... LINKS <target>...)
@@ -32,6 +41,7 @@ function(kt_library name)
     add_library(KT::${name} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${name}
+        OUTPUT_NAME "${target}${KT_SUFFIX}"
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
     target_compile_features(${target} PUBLIC cxx_std_17)
@@ -41,7 +51,15 @@ function(kt_library name)
 
     include(GenerateExportHeader)
     set(export_header "${CMAKE_CURRENT_BINARY_DIR}/include/${lower}_export.h")
-    generate_export_header(${target} EXPORT_FILE_NAME "${export_header}")
-    install(FILES "${export_header}" DESTINATION "${KT_INCLUDE_DIR}")
+    # Every header of a library includes it, so it is where a program that is compiled with the other Qt stops.
+    string(CONFIGURE [[
+#include <QtGlobal>
+#if QT_VERSION_MAJOR != @QT_VERSION_MAJOR@
+#error "These headers of @KT_PACKAGE@ are for Qt @QT_VERSION_MAJOR@; for another Qt use the package of that Qt."
+#endif
+]] qt_check @ONLY)
+    generate_export_header(${target} EXPORT_FILE_NAME "${export_header}"
+        CUSTOM_CONTENT_FROM_VARIABLE qt_check)
+    kt_install(FILES "${export_header}" DESTINATION "${KT_INCLUDE_DIR}" COMPONENT Development)
     kt_public_headers(${target} PUBLIC ${arg_HEADERS})
 endfunction()

@@ -13,7 +13,7 @@ elseif(KT_SANITIZE STREQUAL "thread")
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
     add_link_options(-fsanitize=thread)
     add_library(KTThreadAnnotations STATIC cmake/KTThreadAnnotations.cpp)
-    target_link_libraries(KTThreadAnnotations PRIVATE Qt5::Core)
+    target_link_libraries(KTThreadAnnotations PRIVATE ${KT_QT}::Core)
     link_libraries("$<BUILD_INTERFACE:KTThreadAnnotations>")
     foreach(lock
             _ZN6QMutex4lockEv _ZN6QMutex6unlockEv _ZN6QMutex7tryLockEi

@@ -24,10 +24,14 @@ struct Bytes
     template <typename NUMBER>
     NUMBER take()
     {
-        NUMBER number = 0;
-        const std::size_t size = std::min(sizeof number, static_cast<std::size_t>(end - begin));
-        std::memcpy(&number, begin, size);
-        begin += size;
+        // Byte by byte: g++ 12 was seen to drop the zero before a memcpy() whose size may be 0.
+        char bytes[sizeof(NUMBER)] = {};
+        for (char &byte : bytes) {
+            if (begin != end)
+                byte = *begin++;
+        }
+        NUMBER number;
+        std::memcpy(&number, bytes, sizeof number);
         return number;
     }
     /** The place in a table of so many entries that the next byte chooses. */

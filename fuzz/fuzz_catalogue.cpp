@@ -85,7 +85,7 @@ void KTFuzz::catalogue(Bytes input)
 
     // The checker reads the same file to the same end, and says what stopped it.
     KT_REQUIRE(file.reset());
-    const int lastLine = text.count('\n') + text.count('\r') + 1;
+    const auto lastLine = text.count('\n') + text.count('\r') + 1;
     int findings = 0;
     KTCatalogueChecker checker([&](const KTFinding &finding) {
         ++findings;

@@ -1,5 +1,6 @@
 #include "KTFuzz.h"
 
+#include <KTArithmetic.h>
 #include <KTArticleId.h>
 #include <KTBarcodeDefinitionList.h>
 #include <KTConfiguredArticleVariantList.h>
@@ -55,9 +56,9 @@ QDomElement takeArticle(const Question &question, Bytes *input)
     const QDomElement article = document->createElement(QStringLiteral("article"));
     QDomElement element = article;
     int count = 0;
-    while (const int choice = input->takeIndex(question.names.size() + 2)) {
+    while (const int choice = input->takeIndex(KTArithmetic::sizeOf(question.names) + 2)) {
         if (choice > 1) {
-            const int value = input->takeIndex(question.values.size() + 1);
+            const int value = input->takeIndex(KTArithmetic::sizeOf(question.values) + 1);
             element.setAttribute(question.names.at(choice - 2),
                                  value > 0 ? question.values.at(value - 1) : input->takeLine());
         } else if (++count <= question.tags.size()) {

@@ -42,6 +42,22 @@ public:
     }
 };
 
+/** The text in UTF-8, in UTF-16LE or UTF-16BE, or else in Latin 1. */
+inline QByteArray encoded(const QString &text, const QByteArray &encoding)
+{
+    if (encoding == "UTF-8")
+        return text.toUtf8();
+    if (!encoding.startsWith("UTF-16"))
+        return text.toLatin1();
+    const bool isLittle = encoding == "UTF-16LE";
+    QByteArray bytes;
+    for (const QChar unit : text) {
+        bytes.append(static_cast<char>(isLittle ? unit.cell() : unit.row()));
+        bytes.append(static_cast<char>(isLittle ? unit.row() : unit.cell()));
+    }
+    return bytes;
+}
+
 template <typename T>
 using Cell = std::conditional_t<std::is_same_v<T, QString>, Text, T>;
 
@@ -113,6 +129,8 @@ QString text(const VALUES &...values)
             text = QLatin1Char(value ? '+' : '-');
         else if constexpr (std::is_floating_point_v<Value>)
             text = QString::number(value, 'g', 12);
+        else if constexpr (std::is_same_v<Value, QList<int>> || std::is_same_v<Value, QVector<int>>)
+            QtPrivate::printSequentialContainer(QDebug(&text).nospace(), "", value);
         else
             QDebug(&text).noquote().nospace() << value;
         texts.append(text);

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTextCodec>
 
 namespace {
 
@@ -199,9 +198,8 @@ private Q_SLOTS:
         const auto [codec, hasMark] = KTTest::row<QByteArray, bool>();
         const QString content
             = u"<?xml version='1.0'?>\n<catalogue><article name='\U0001F600' id='7'/></catalogue>"_s;
-        QTextCodec::ConverterState state(hasMark ? QTextCodec::DefaultConversion : QTextCodec::IgnoreHeader);
         const QByteArray file
-            = QTextCodec::codecForName(codec)->fromUnicode(content.constData(), content.size(), &state);
+            = KTTest::encoded((hasMark ? QString(QChar::ByteOrderMark) : QString()) + content, codec);
         KTTrickle device(file, 3);
         KTCatalogueReader reader(&device);
         KTCatalogueArticle article;

@@ -70,7 +70,7 @@ void check(int keywords, int values, qint64 unknown)
     QCOMPARE(qint64(CLASS(u"no keyword"_s).value()), unknown);
 
     // The text of an article class does not begin with the name of the class.
-    const QString name = QString::fromLatin1(QMetaType::typeName(qMetaTypeId<CLASS>()))
+    const QString name = QString::fromLatin1(QVariant::fromValue(CLASS()).typeName())
                              .replace(u"KTArticleClass"_s, u"Articleclass"_s);
     QMap<CLASS, QString> map;
     QSet<CLASS> set;

@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         const QString name = u"icons/picshelf/dummy-barcode.png"_s;
         const QString found = KTDirectoryConfig::instance()->resource(name, false);
-        QVERIFY2(found.endsWith(u"share/KTProductBase/"_s + name), qPrintable(found));
+        QVERIFY2(found.endsWith(QStringLiteral("share/" KT_PACKAGE "/") + name), qPrintable(found));
         // What the root has not comes from the installed folder, also where there is no root.
         KTDirectoryConfig other;
         for (const QString &root : {path("root"), path("missing"), QString()}) {

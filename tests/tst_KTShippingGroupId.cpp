@@ -21,8 +21,9 @@ private Q_SLOTS:
             return KTTest::text(id.id(), areSame, id.isValid(), id.isCombinedTransfer());
         };
         KTTest::check(read,
-                      {"18 -> 18|+|+|-", " 18  -> 18|+|+|-", "-5 -> -5|+|+|-", "0 -> 0|+|+|+",
-                       "-1 -> -1|+|-|-", "0x12 -> -1|+|-|-", "2147483648 -> -1|+|-|-", " -> -1|+|-|-"});
+                      {"18 -> 18|+|+|-", " 18  -> 18|+|+|-", "\u00a018\u00a0 -> 18|+|+|-",
+                       "\u221218 -> -18|+|+|-", "-5 -> -5|+|+|-", "0 -> 0|+|+|+", "-1 -> -1|+|-|-",
+                       "0x12 -> -1|+|-|-", "2147483648 -> -1|+|-|-", " -> -1|+|-|-"});
         QVERIFY(!KTShippingGroupId(KTTest::element(u"<g id='1'/>"_s), u"y"_s).isValid());
         const auto readJson = [](const QString &json) {
             return KTShippingGroupId(QJsonDocument::fromJson(json.toUtf8()).object()).id();

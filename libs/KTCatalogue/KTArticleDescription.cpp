@@ -4,6 +4,7 @@
 #include "KTMillimeterText.h"
 #include "KTVariantsText.h"
 
+#include <KTArithmetic.h>
 #include <KTDistanceUnit.h>
 
 #include <QHash>
@@ -93,7 +94,7 @@ Section classificationSection(const KTArticle &article)
         const QString written = classification.written(entry.value);
         const QString displayName = classification.displayName(entry.value);
         const QStringList unknown = classification.unknownEntries(entry.text);
-        const int index = section.rows.size();
+        const int index = KTArithmetic::sizeOf(section.rows);
         section.rows.append({
             section.id + QLatin1Char('.') + name,
             name,

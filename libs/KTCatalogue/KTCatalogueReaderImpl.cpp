@@ -3,6 +3,8 @@
 #include "KTStartTag.h"
 #include "KTXMLError.h"
 
+#include <KTArithmetic.h>
+
 #include <QIODevice>
 
 #include <algorithm>
@@ -112,7 +114,8 @@ void setText(KTXMLFragment *fragment, const QByteArray &tags,
     }
     for (const auto &[index, value] : decodedValues) {
         const QString decoded = QString::fromUtf8(value);
-        fragment->attributes[index].value = {fragment->text.size(), decoded.size()};
+        fragment->attributes[index].value
+            = {KTArithmetic::sizeOf(fragment->text), KTArithmetic::sizeOf(decoded)};
         fragment->text += decoded;
     }
 }
@@ -192,7 +195,7 @@ void KTCatalogueReaderImpl::feed()
     // A device at its end may say so with an error code as well; then there is nothing wrong with it.
     const bool isLast = length == 0 || (length < 0 && myDevice->atEnd());
     if (length < 0 && !isLast) {
-        advanceTo(myWindow.size());
+        advanceTo(KTArithmetic::sizeOf(myWindow));
         fail(Kind::Unreadable, QStringLiteral("the file cannot be read: %1").arg(myDevice->errorString()),
              myTracker.position());
         return;
@@ -227,7 +230,7 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
 {
     const bool hasNul = !append(text);
     const bool isBroken = hasNul || !myDecoder.error().isEmpty();
-    const int unseen = myWindow.size() - myUnseen;
+    const int unseen = KTArithmetic::sizeOf(myWindow) - myUnseen;
     // The parser begins anew with markup that is not complete: what it gets then is as much again, so that
     // long markup costs no time out of proportion.
     if (!isLast && !isBroken && unseen < myUnseen && myWindow.size() <= KTCatalogueReader::MAX_MARKUP_LENGTH)
@@ -238,7 +241,7 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     if (isBroken && (isParsed || KTXMLError::isAboutEnd(XML_GetErrorCode(myParser)))) {
         fail(Kind::NotWellFormed,
              hasNul ? QStringLiteral("a NUL character; the file is no text") : myDecoder.error(),
-             positionOf(myWindow.size()));
+             positionOf(KTArithmetic::sizeOf(myWindow)));
     } else if (!isParsed) {
         failAsParser(isLast || isBroken);
     }
@@ -279,7 +282,7 @@ void KTCatalogueReaderImpl::checkPending()
     }
     if (!myWindow.startsWith('<') || myWindow.startsWith("<!") || myWindow.startsWith("<?"))
         return;
-    checkLimits(0, myWindow.size());
+    checkLimits(0, KTArithmetic::sizeOf(myWindow));
 }
 
 /** Refuses a tag, or the beginning of one, with too many attributes or too long values. */
@@ -293,7 +296,7 @@ void KTCatalogueReaderImpl::checkLimits(int begin, int end)
 
 void KTCatalogueReaderImpl::refuseDocumentType()
 {
-    const int begin = myWindow.indexOf("<!DOCTYPE", place(myTrackedOffset));
+    const auto begin = static_cast<int>(myWindow.indexOf("<!DOCTYPE", place(myTrackedOffset)));
     fail(Kind::LimitExceeded, limitText(QStringLiteral("a catalogue has no document type declaration")),
          positionOf(std::max(begin, 0)));
 }
@@ -309,7 +312,7 @@ void KTCatalogueReaderImpl::startElement(const char **attributes)
     const std::string_view elementName = KTStartTag::name(bytes(tagBegin + 1), bytes(tagEnd));
     const auto nameLength = static_cast<int>(elementName.size());
     myOpenNames.append(elementName.data(), nameLength);
-    myOpenElements.push_back({myOpenNames.size(), position.line});
+    myOpenElements.push_back({KTArithmetic::sizeOf(myOpenNames), position.line});
     ++myDepth;
     if (myDepth == ROOT_DEPTH && elementName != CATALOGUE_ELEMENT) {
         fail(Kind::NotWellFormed,
@@ -366,10 +369,10 @@ void KTCatalogueReaderImpl::beginItem()
 void KTCatalogueReaderImpl::appendElement(int tagBegin, int tagEnd, int nameLength, const char **attributes)
 {
     KTXMLFragment &fragment = myArticle->myFragment;
-    const int offset = myArticle->myTags.size();
+    const int offset = KTArithmetic::sizeOf(myArticle->myTags);
     const char *const tag = bytes(tagBegin);
     const auto inTags = [=](const char *byte) { return offset + static_cast<int>(byte - tag); };
-    const int firstAttribute = fragment.attributes.size();
+    const int firstAttribute = KTArithmetic::sizeOf(fragment.attributes);
     myArticle->myTags.append(tag, tagEnd - tagBegin);
     myArticle->myTagPlaces.append(
         KTCatalogueArticle::Tag {offset, offset + tagEnd - tagBegin, myTracker.position(), KTFilePosition()});
@@ -387,9 +390,9 @@ void KTCatalogueReaderImpl::appendElement(int tagBegin, int tagEnd, int nameLeng
         return true;
     });
     const KTXMLFragment::Slice name {offset + 1, nameLength};
-    fragment.elements.append(KTXMLFragment::Element {name, myElement, firstAttribute,
-                                                     fragment.attributes.size() - firstAttribute, 0});
-    myElement = fragment.elements.size() - 1;
+    fragment.elements.append(KTXMLFragment::Element {
+        name, myElement, firstAttribute, KTArithmetic::sizeOf(fragment.attributes) - firstAttribute, 0});
+    myElement = KTArithmetic::sizeOf(fragment.elements) - 1;
 }
 
 void KTCatalogueReaderImpl::endElement()
@@ -403,7 +406,7 @@ void KTCatalogueReaderImpl::endElement()
     if (!myArticle)
         return;
     KTXMLFragment::Element &element = myArticle->myFragment.elements[myElement];
-    element.end = myArticle->myFragment.elements.size();
+    element.end = KTArithmetic::sizeOf(myArticle->myFragment.elements);
     myArticle->myTagPlaces[myElement].elementEnd = myTracker.position();
     myElement = element.parent;
     if (myElement < 0)
@@ -424,7 +427,7 @@ bool KTCatalogueReaderImpl::isWanted() const
 void KTCatalogueReaderImpl::finishItem(Item item)
 {
     KTXMLFragment &fragment = myArticle->myFragment;
-    fragment.elements.first().end = fragment.elements.size();
+    fragment.elements.first().end = KTArithmetic::sizeOf(fragment.elements);
     setText(&fragment, myArticle->myTags, myDecodedValues);
     myQueue.push_back({item, std::move(myArticle)});
 }
@@ -449,13 +452,13 @@ void KTCatalogueReaderImpl::failAsParser(bool isAtEnd)
 {
     constexpr int MAX_CHARACTER_LENGTH = 4;
     const XML_Error code = XML_GetErrorCode(myParser);
-    const int place = std::clamp(eventBegin(), this->place(myTrackedOffset), myWindow.size());
+    const int place = std::clamp(eventBegin(), this->place(myTrackedOffset), KTArithmetic::sizeOf(myWindow));
     while (!isAtEnd && myWindow.size() - place < MAX_CHARACTER_LENGTH) {
         const QByteArray chunk = myDevice->read(CHUNK_SIZE);
         isAtEnd = chunk.isEmpty() || !append(myDecoder.decode(chunk, false));
     }
     const KTXMLError::Text text {bytes(0), bytes(this->place(myTrackedOffset)), bytes(place),
-                                 bytes(myWindow.size()), myWindowOffset == 0};
+                                 bytes(KTArithmetic::sizeOf(myWindow)), myWindowOffset == 0};
     const KTXMLError::Answer answer = KTXMLError::explain(code, text, openElement(), openLine());
     fail(Kind::NotWellFormed, answer.words, positionOf(static_cast<int>(answer.place - bytes(0))));
 }

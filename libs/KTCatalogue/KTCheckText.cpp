@@ -2,6 +2,8 @@
 
 #include "KTNearestWord.h"
 
+#include <KTArithmetic.h>
+
 #include <algorithm>
 
 QString KTCheckText::quoted(const QString &text)
@@ -15,7 +17,8 @@ QString KTCheckText::suggestion(const QString &word, const QStringList &candidat
     if (word.size() > MAX_WORD_LENGTH)
         return QString();
     // A word that is changed as a whole was not meant.
-    const QString nearest = KTNearestWord::find(word, candidates, std::clamp(word.size() - 1, 0, 2));
+    const QString nearest
+        = KTNearestWord::find(word, candidates, std::clamp(KTArithmetic::sizeOf(word) - 1, 0, 2));
     return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean '%1'?").arg(nearest);
 }
 

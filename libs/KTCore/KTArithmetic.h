@@ -16,6 +16,13 @@ constexpr int saturated(qint64 value)
     return static_cast<int>(value < LOWEST ? LOWEST : value > HIGHEST ? HIGHEST : value);
 }
 
+/** The number of entries or characters of a Qt container, whose sizes are wider than int with Qt 6. */
+template <typename CONTAINER>
+constexpr int sizeOf(const CONTAINER &container)
+{
+    return saturated(container.size());
+}
+
 /** The number without its fraction, saturating at the ends of int; not-a-number gives 0. */
 inline int truncated(double value)
 {
@@ -29,12 +36,16 @@ inline int truncated(double value)
     return static_cast<int>(value);
 }
 
-/** The nearest whole number, halves upwards as qRound() has them; otherwise like truncated(). */
+/**
+ * The nearest whole number, halves upwards, also below zero: -0.5 gives 0 and -1.5 gives -1. Otherwise like
+ * truncated().
+ *
+ * That is what qRound() of Qt 5 gives; it is undefined at both ends of int, and that of Qt 6 rounds halves
+ * below zero away from it.
+ */
 inline int rounded(double value)
 {
-    // qRound() is undefined at both ends already.
-    const bool isInside = value > std::numeric_limits<int>::min() && value < std::numeric_limits<int>::max();
-    return isInside ? qRound(value) : truncated(value);
+    return truncated(std::floor(value + 0.5));
 }
 
 } // namespace KTArithmetic

@@ -13,8 +13,6 @@
 namespace {
 
 constexpr char ROOT_VARIABLE[] = "KTPRODUCTBASE_RESOURCES";
-// Seen from the library: as it is installed, and as it lies in the build folder.
-constexpr const char *ROOTS[] = {KT_RESOURCES_FROM_LIBRARY, "../share/KTProductBase"};
 
 constexpr QChar FOLDER_SEPARATOR = u'/';
 constexpr KTStringLiteral PARENT_FOLDER = "..";
@@ -31,13 +29,8 @@ QString libraryFolder()
 
 QString installedRoot()
 {
-    const QDir folder(libraryFolder());
-    for (const char *const path : ROOTS) {
-        const QFileInfo candidate(folder, QString::fromUtf8(path));
-        if (candidate.isDir())
-            return candidate.canonicalFilePath();
-    }
-    return QString();
+    const QFileInfo root(QDir(libraryFolder()), QStringLiteral(KT_RESOURCES_FROM_LIBRARY));
+    return root.isDir() ? root.canonicalFilePath() : QString();
 }
 
 /** The folder that the environment names; empty, with a warning, where that is no folder. */

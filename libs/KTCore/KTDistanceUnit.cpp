@@ -71,7 +71,7 @@ double KTDistanceUnit::pixels2Units(double pixels) const
 
 void KTDistanceUnit::fillTable(KTEnumToStringTable<KTDistanceUnitEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTDistanceUnit &unit)

@@ -34,7 +34,7 @@ KTSpotColor::KTSpotColor(const QString &text)
 
 void KTSpotColor::fillTable(KTEnumToStringTable<KTSpotColorEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTSpotColor &color)

@@ -74,7 +74,7 @@ constexpr KTKeywordRow<KTArticleClassEnum> KEYWORDS[] = {
 };
 
 constexpr auto RESERVED = KTArticleClassReserved29 | KTArticleClassReserved30 | KTArticleClassReserved37;
-static_assert((bitsWithKeyword(KEYWORDS) | RESERVED)
+static_assert((KTKeywordRows::bits(KEYWORDS) | RESERVED)
                   == (KTArticleClassArticle | KTArticleClassFee | KTArticleClassAddOn
                       | KTArticleClassPreAssembled),
               "every kind has a keyword, except the reserved ones");
@@ -214,7 +214,7 @@ void KTArticleClass::toTemplates2Format(QDomElement &parent) const
 
 void KTArticleClass::fillTable(KTEnumToStringTable<KTArticleClassEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTArticleClass &articleClass)

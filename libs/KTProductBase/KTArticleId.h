@@ -2,6 +2,7 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
 #include <KTStdHash.h>
 
 #include <QMetaType>
@@ -88,7 +89,7 @@ Q_DECLARE_TYPEINFO(KTArticleId, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTArticleId)
 
 /** The number XOR the seed. */
-inline uint qHash(const KTArticleId &articleId, uint seed = 0)
+inline KTHashValue qHash(const KTArticleId &articleId, KTHashValue seed = 0)
 {
     return static_cast<uint>(articleId.id()) ^ seed;
 }

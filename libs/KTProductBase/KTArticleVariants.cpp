@@ -193,7 +193,7 @@ bool KTArticleVariants::containsAtLeastOne(const KTArticleVariants &other) const
 
 uint KTArticleVariants::hash() const
 {
-    return qHash(myVariants, 0);
+    return static_cast<uint>(qHash(myVariants, 0));
 }
 
 QString KTArticleVariants::toMCF() const

@@ -2,6 +2,8 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
+
 #include <QHash>
 #include <QMetaType>
 #include <QString>
@@ -106,7 +108,7 @@ private:
 
 Q_DECLARE_METATYPE(KTArticleVariants)
 
-inline uint qHash(const KTArticleVariants &variants, uint seed = 0)
+inline KTHashValue qHash(const KTArticleVariants &variants, KTHashValue seed = 0)
 {
     return variants.hash() ^ seed;
 }

@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QHash>
 #include <QImageReader>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QtEndian>
 
 #include <limits>
@@ -116,6 +118,25 @@ bool isIconTooLarge(const QString &path)
                       qAbs(qint64(qFromLittleEndian<qint32>(bytes + 8))));
 }
 
+QImage decoded(QImageReader *reader)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    // Qt 6 has a limit of its own, one for all images of the process and below MOST_PIXELS, in megabytes.
+    constexpr qint64 BYTES_PER_PIXEL = 16;
+    constexpr int MOST_MEGABYTES = static_cast<int>((MOST_PIXELS * BYTES_PER_PIXEL) >> 20) + 1;
+    static QMutex mutex;
+    const QMutexLocker locker(&mutex);
+    const int limit = QImageReader::allocationLimit();
+    if (limit > 0 && limit < MOST_MEGABYTES) {
+        QImageReader::setAllocationLimit(MOST_MEGABYTES);
+        const QImage image = reader->read();
+        QImageReader::setAllocationLimit(limit);
+        return image;
+    }
+#endif
+    return reader->read();
+}
+
 QImage loadedImage(const QString &path)
 {
     watchExit();
@@ -125,7 +146,7 @@ QImage loadedImage(const QString &path)
     const QSize size = reader.size();
     if (size.isEmpty() || isTooLarge(size.width(), size.height()) || isIconTooLarge(path))
         return QImage();
-    return reader.read();
+    return decoded(&reader);
 }
 
 } // namespace
@@ -186,7 +207,7 @@ bool KTBarcodeDefinition::operator<(const KTBarcodeDefinition &other) const
         || myPageNr < other.myPageNr || myImageName < other.myImageName;
 }
 
-uint qHash(const KTBarcodeDefinition &definition, uint seed)
+KTHashValue qHash(const KTBarcodeDefinition &definition, KTHashValue seed)
 {
     const QRect rect = definition.rect();
     const int edges[] = {rect.left(), rect.top(), rect.right(), rect.bottom(), definition.pageNr()};

@@ -3,6 +3,7 @@
 #include "ktproductbase_export.h"
 
 #include <KTDistanceUnit.h>
+#include <KTQtTypes.h>
 
 #include <QImage>
 #include <QMetaType>
@@ -72,5 +73,5 @@ private:
 
 Q_DECLARE_METATYPE(KTBarcodeDefinition)
 /** Hashes what equality compares. */
-KTPRODUCTBASE_EXPORT uint qHash(const KTBarcodeDefinition &definition, uint seed = 0);
+KTPRODUCTBASE_EXPORT KTHashValue qHash(const KTBarcodeDefinition &definition, KTHashValue seed = 0);
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTBarcodeDefinition &definition);

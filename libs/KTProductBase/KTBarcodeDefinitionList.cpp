@@ -1,5 +1,6 @@
 #include "KTBarcodeDefinitionList.h"
 
+#include <KTArithmetic.h>
 #include <KTStringLiteral.h>
 #include <KTXMLElement.h>
 
@@ -74,7 +75,7 @@ const KTBarcodeDefinition *IndexedList::first(const QRect &rect)
 
 void IndexedList::append(const KTBarcodeDefinition &definition)
 {
-    const int position = myEntries.size();
+    const int position = KTArithmetic::sizeOf(myEntries);
     myEntries.append({definition, false});
     myPositions[definition].append(position);
     myPlaces[key(definition.rect())].positions.append(position);
@@ -123,8 +124,8 @@ qint64 piecesOf(const QVector<Band> &bands, const QVector<Band> &others)
         edges << other.top << qint64(other.bottom) + 1;
     qint64 pieces = 0;
     for (const Band &band : bands) {
-        const auto *const first = std::upper_bound(edges.cbegin(), edges.cend(), band.top);
-        const auto *const last = std::upper_bound(first, edges.cend(), band.bottom);
+        const auto first = std::upper_bound(edges.cbegin(), edges.cend(), band.top);
+        const auto last = std::upper_bound(first, edges.cend(), band.bottom);
         pieces += band.width * (1 + (last - first));
     }
     return pieces;
@@ -217,7 +218,7 @@ KTBarcodeDefinitionList KTBarcodeDefinitionList::barcodesOnPage(int pageNr) cons
 
 QRegion KTBarcodeDefinitionList::occupiedRegion() const
 {
-    return united(*this, 0, size());
+    return united(*this, 0, KTArithmetic::sizeOf(*this));
 }
 
 void KTBarcodeDefinitionList::updateDefinitions(const KTBarcodeDefinitionList &other)

@@ -91,7 +91,7 @@ KTConfiguredArticleVariant::KTConfiguredArticleVariant(const QString &key, const
 KTConfiguredArticleVariant::KTConfiguredArticleVariant(const QString &keywordString)
     : KTConfiguredArticleVariant()
 {
-    const int separator = keywordString.indexOf(KEY_VALUE_SEPARATOR);
+    const KTSize separator = keywordString.indexOf(KEY_VALUE_SEPARATOR);
     if (separator < 0 || keywordString.indexOf(KEY_VALUE_SEPARATOR, separator + 1) >= 0)
         return;
     myImpl->key = keywordString.left(separator);
@@ -197,7 +197,7 @@ bool KTConfiguredArticleVariant::operator<(const KTConfiguredArticleVariant &oth
     return myImpl != other.myImpl && myImpl->keyName < other.myImpl->keyName;
 }
 
-uint qHash(const KTConfiguredArticleVariant &variant, uint seed)
+KTHashValue qHash(const KTConfiguredArticleVariant &variant, KTHashValue seed)
 {
     return qHash(qMakePair(variant.key(), variant.value()), seed);
 }

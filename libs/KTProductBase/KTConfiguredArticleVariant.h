@@ -2,6 +2,7 @@
 
 #include "KTArticleVariants.h"
 
+#include <KTQtTypes.h>
 #include <KTSpotColor.h>
 
 #include <QColor>
@@ -87,6 +88,6 @@ Q_DECLARE_TYPEINFO(KTConfiguredArticleVariant, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTConfiguredArticleVariant)
 
 /** Hashes key and value, as equality compares them. */
-KTPRODUCTBASE_EXPORT uint qHash(const KTConfiguredArticleVariant &variant, uint seed = 0);
+KTPRODUCTBASE_EXPORT KTHashValue qHash(const KTConfiguredArticleVariant &variant, KTHashValue seed = 0);
 /** Writes "KTConfiguredArticleVariant: key: %1 value: %2 " as one string. */
 KTPRODUCTBASE_EXPORT QDebug operator<<(QDebug stream, const KTConfiguredArticleVariant &variant);

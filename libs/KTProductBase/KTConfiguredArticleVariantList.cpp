@@ -122,7 +122,7 @@ bool KTConfiguredArticleVariantList::contains(const KTArticleVariants &chosen) c
     const QStringList keys = chosen.keys();
     QVarLengthArray<bool, 64> isOffered(keys.size());
     std::fill(isOffered.begin(), isOffered.end(), false);
-    int missing = keys.size();
+    KTSize missing = keys.size();
     for (auto variant = begin(); variant != end() && missing > 0; ++variant) {
         if (!matches(*variant, chosen))
             continue;

@@ -51,7 +51,7 @@ constexpr KTKeywordRow<KTCoverTypeEnum> KEYWORDS[] = {
     {"set",                       KTCoverTypeSet                    },
     {"wire-o",                    KTCoverTypeWireO                  },
 };
-static_assert(bitsWithKeyword(KEYWORDS) == 0xffffffff, "every type has a keyword");
+static_assert(KTKeywordRows::bits(KEYWORDS) == 0xffffffff, "every type has a keyword");
 
 constexpr KTTextRow<KTCoverTypeEnum> NAMES[] = {
     {KTCoverTypeHardcover,            QT_TRANSLATE_NOOP("KTBinding", "Hardcover")               },
@@ -165,7 +165,7 @@ KTCoverType KTCoverType::createFromHumanReadable(const QString &name)
 
 KTLookUpTable<KTCoverTypeEnum, QString> *KTCoverType::initCoverNames()
 {
-    auto *const table = createTextTable<KTCoverTypeEnum>("KTBinding", NAMES);
+    auto *const table = KTFactRows::createTextTable<KTCoverTypeEnum>("KTBinding", NAMES);
     for (const KTCoverTypeEnum value : NAMELESS)
         table->map.insert(value, QCoreApplication::translate("KTBinding", ""));
     table->defaultValue = unknownName();
@@ -180,7 +180,7 @@ KTLookUpTable<KTCoverTypeEnum, QString> *KTCoverType::bindingNames()
 
 KTLookUpTable<KTCoverTypeEnum, QString> *KTCoverType::initTooltips()
 {
-    auto *const table = createTextTable<KTCoverTypeEnum>("KTBinding", TOOL_TIPS);
+    auto *const table = KTFactRows::createTextTable<KTCoverTypeEnum>("KTBinding", TOOL_TIPS);
     const QString twoLines = QCoreApplication::translate("KTBinding", "%1\n%2");
     const QString finishing = QCoreApplication::translate(
         "KTBinding", "Das Cover kann nur mit veredelten Elementen gestaltet werden.");
@@ -220,7 +220,7 @@ bool KTCoverType::isSimplex() const
 
 void KTCoverType::fillTable(KTEnumToStringTable<KTCoverTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTCoverType &coverType)

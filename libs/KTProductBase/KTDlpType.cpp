@@ -19,7 +19,7 @@ constexpr KTKeywordRow<KTDlpTypeEnum> KEYWORDS[] = {
     {"predefined_project",  KTDlpTypePredefinedProject},
     {"storybook",           KTDlpTypeStorybook        },
 };
-static_assert(bitsWithKeyword(KEYWORDS) == KTDlpTypeReserved9 - 1, "every kind has a keyword");
+static_assert(KTKeywordRows::bits(KEYWORDS) == KTDlpTypeReserved9 - 1, "every kind has a keyword");
 
 constexpr KTTextRow<KTDlpTypeEnum> NAMES[] = {
     {KTDlpTypeBackground, QT_TRANSLATE_NOOP("KTDlpType", "Hintergründe")  },
@@ -71,13 +71,13 @@ KTDlpType::KTDlpType(const QString &text)
 
 QString KTDlpType::visibleName() const
 {
-    static const auto *const myTable = createTextTable<KTDlpTypeEnum>("KTDlpType", NAMES);
+    static const auto *const myTable = KTFactRows::createTextTable<KTDlpTypeEnum>("KTDlpType", NAMES);
     return myTable->valueOf(value());
 }
 
 QString KTDlpType::dlpPath(bool flag) const
 {
-    const DirectoryRow &row = rowOf(DIRECTORIES, value() & ~KTDlpTypeReserved9, NO_DIRECTORY);
+    const DirectoryRow &row = KTFactRows::find(DIRECTORIES, value() & ~KTDlpTypeReserved9, NO_DIRECTORY);
     return KTDirectoryName(flag ? row.flaggedDirectory : row.directory).name();
 }
 
@@ -96,7 +96,7 @@ QString KTDlpType::describe() const
 
 void KTDlpType::fillTable(KTEnumToStringTable<KTDlpTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTDlpType &dlpType)

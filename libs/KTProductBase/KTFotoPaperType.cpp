@@ -4,8 +4,11 @@
 
 #include <KTFactRow.h>
 #include <KTKeywordRow.h>
+#include <KTXMLParser.h>
 
 #include <QDebug>
+
+#include <optional>
 
 namespace {
 
@@ -46,11 +49,10 @@ KTFotoPaperType::KTFotoPaperType(const QString &text)
 
 QList<KTFotoPaperType> KTFotoPaperType::createFromXTCI(const QString &text)
 {
-    bool ok = false;
-    const int code = text.toInt(&ok, 10);
+    const std::optional<int> code = KTXMLParser::parseInt(text);
     QList<KTFotoPaperType> surfaces;
     for (const KTFotoPaperTypeEnum surface : {KTFotoPaperTypeGlossy, KTFotoPaperTypeMatt}) {
-        if (ok && (code == BOTH_SURFACES || code == surface))
+        if (code == BOTH_SURFACES || code == surface)
             surfaces.append(surface);
     }
     return surfaces;
@@ -64,7 +66,8 @@ KTFotoPaperType KTFotoPaperType::defaultFor(const KTArticleClass &articleClass)
 
 QString KTFotoPaperType::humanReadableName() const
 {
-    static const auto *const myTable = createTextTable<KTFotoPaperTypeEnum>("KTFotoPaperType", NAMES);
+    static const auto *const myTable
+        = KTFactRows::createTextTable<KTFotoPaperTypeEnum>("KTFotoPaperType", NAMES);
     return myTable->valueOf(value());
 }
 
@@ -76,7 +79,7 @@ QString KTFotoPaperType::encodeForProduction() const
 
 void KTFotoPaperType::fillTable(KTEnumToStringTable<KTFotoPaperTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTFotoPaperType &paperType)

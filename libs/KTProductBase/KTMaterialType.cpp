@@ -35,7 +35,7 @@ KTMaterialType::KTMaterialType(const QString &text)
 
 void KTMaterialType::fillTable(KTEnumToStringTable<KTMaterialTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTMaterialType &materialType)

@@ -2,6 +2,7 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
 #include <KTStdHash.h>
 
 #include <QHash>
@@ -53,7 +54,7 @@ private:
 Q_DECLARE_METATYPE(KTOrderId)
 
 /** The hash of the text with the same seed. */
-inline uint qHash(const KTOrderId &orderId, uint seed = 0)
+inline KTHashValue qHash(const KTOrderId &orderId, KTHashValue seed = 0)
 {
     return qHash(orderId.toString(false), seed);
 }

@@ -24,7 +24,7 @@ constexpr KTKeywordRow<KTOrientationEnum> KEYWORDS[] = {
     {"quadratic",       KTOrientationSquare       },
     {"all",             KTOrientationAll          },
 };
-static_assert(bitsWithKeyword(KEYWORDS) == KTOrientationAll, "every format has a keyword");
+static_assert(KTKeywordRows::bits(KEYWORDS) == KTOrientationAll, "every format has a keyword");
 
 constexpr KTOrientationEnum NO_ORIENTATION = static_cast<KTOrientationEnum>(0);
 
@@ -154,7 +154,8 @@ KTOrientationEnum KTOrientation::fromSize(const QSizeF &size) const
 
 QString KTOrientation::humanReadable() const
 {
-    static const auto *const myTable = createTextTable<KTOrientationEnum>("KTOrientation", FORMATS);
+    static const auto *const myTable
+        = KTFactRows::createTextTable<KTOrientationEnum>("KTOrientation", FORMATS);
     return myTable->valueOf(value());
 }
 
@@ -175,12 +176,12 @@ bool KTOrientation::isQuadratic() const
 
 double KTOrientation::defaultWidthHeightRatio() const
 {
-    return rowOf(FORMATS, value(), NO_FORMAT).widthHeightRatio;
+    return KTFactRows::find(FORMATS, value(), NO_FORMAT).widthHeightRatio;
 }
 
 KTOrientation KTOrientation::reduceToBasics() const
 {
-    return rowOf(BASICS, value(), NO_BASIC).basic;
+    return KTFactRows::find(BASICS, value(), NO_BASIC).basic;
 }
 
 QString KTOrientation::encodeForDLP() const
@@ -190,7 +191,7 @@ QString KTOrientation::encodeForDLP() const
 
 double KTOrientation::foldMarginFactor() const
 {
-    return rowOf(FOLDS, reduceToBasics().value(), NO_FOLD).marginFactor;
+    return KTFactRows::find(FOLDS, reduceToBasics().value(), NO_FOLD).marginFactor;
 }
 
 int KTOrientation::foldMargin(int length) const
@@ -209,7 +210,7 @@ void KTOrientation::toTemplates2Format(QDomElement &parent) const
 
 void KTOrientation::fillTable(KTEnumToStringTable<KTOrientationEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
     table->defaultKeyword = table->encode(KTOrientationPortrait);
 }
 

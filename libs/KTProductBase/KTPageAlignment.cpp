@@ -46,7 +46,7 @@ constexpr PlaceRow PLACES[] = {
     {KTPageAlignmentCenter,   QT_TRANSLATE_NOOP("KTPageAlignment", "mittig"),              CENTER_PDF},
 };
 constexpr PlaceRow NO_PLACE = {static_cast<KTPageAlignmentEnum>(0), nullptr, CENTER_PDF};
-static_assert(bitsWithKeyword(KEYWORDS) == (1 << std::size(PLACES)) - 1, "every place has a keyword");
+static_assert(KTKeywordRows::bits(KEYWORDS) == (1 << std::size(PLACES)) - 1, "every place has a keyword");
 
 } // namespace
 
@@ -68,7 +68,7 @@ KTPageAlignment::KTPageAlignment(const QString &text)
 
 QString KTPageAlignment::pdfPostFix(bool sidesApart) const
 {
-    return (sidesApart ? rowOf(PLACES, value(), NO_PLACE) : NO_PLACE).pdfPostFix;
+    return (sidesApart ? KTFactRows::find(PLACES, value(), NO_PLACE) : NO_PLACE).pdfPostFix;
 }
 
 QString KTPageAlignment::modifyProductionPath(const QString &path, bool sidesApart) const
@@ -79,13 +79,14 @@ QString KTPageAlignment::modifyProductionPath(const QString &path, bool sidesApa
 
 QString KTPageAlignment::describe() const
 {
-    static const auto *const myTable = createTextTable<KTPageAlignmentEnum>("KTPageAlignment", PLACES);
+    static const auto *const myTable
+        = KTFactRows::createTextTable<KTPageAlignmentEnum>("KTPageAlignment", PLACES);
     return myTable->valueOf(value());
 }
 
 void KTPageAlignment::fillTable(KTEnumToStringTable<KTPageAlignmentEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
     table->defaultValue = KTPageAlignmentLeft;
 }
 

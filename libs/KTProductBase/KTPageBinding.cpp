@@ -50,7 +50,7 @@ KTPageBinding::KTPageBinding(const QString &keywords)
 
 KTLookUpTable<KTPageBinding, QString> *KTPageBinding::initPageBindingNames()
 {
-    return createTextTable<KTPageBinding>("KTPageBinding", NAMES);
+    return KTFactRows::createTextTable<KTPageBinding>("KTPageBinding", NAMES);
 }
 
 KTLookUpTable<KTPageBinding, QString> *KTPageBinding::pageBindingNames()
@@ -74,7 +74,7 @@ void KTPageBinding::toTemplates2Format(QDomElement &element) const
 
 void KTPageBinding::fillTable(KTEnumToStringTable<KTPageBindingEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTPageBinding &binding)

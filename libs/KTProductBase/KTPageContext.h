@@ -3,6 +3,8 @@
 #include "KTPageAlignment.h"
 #include "KTPageType.h"
 
+#include <KTQtTypes.h>
+
 /** Which kind of page is meant, and where it lies on the spread; both may be unions of flags. */
 class KTPRODUCTBASE_EXPORT KTPageContext
 {
@@ -44,7 +46,7 @@ Q_DECLARE_TYPEINFO(KTPageContext, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTPageContext)
 
 /** Hashes what equality compares. */
-inline uint qHash(const KTPageContext &context, uint seed = 0)
+inline KTHashValue qHash(const KTPageContext &context, KTHashValue seed = 0)
 {
     return qHash(context.pageType(), qHash(context.alignment(), seed));
 }

@@ -2,6 +2,8 @@
 
 #include "KTPageContext.h"
 
+#include <KTQtTypes.h>
+
 /** What a page size is looked up by: a kind of page, on whichever side it lies, and the page count. */
 class KTPRODUCTBASE_EXPORT KTPageSizeKey
 {
@@ -43,7 +45,7 @@ Q_DECLARE_TYPEINFO(KTPageSizeKey, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTPageSizeKey)
 
 /** Hashes what equality compares. */
-inline uint qHash(const KTPageSizeKey &key, uint seed = 0)
+inline KTHashValue qHash(const KTPageSizeKey &key, KTHashValue seed = 0)
 {
     return qHash(key.pageCount(), qHash(key.pageContext(), seed));
 }

@@ -42,7 +42,7 @@ constexpr KTKeywordRow<KTPageTypeEnum> KEYWORDS[] = {
     {"slipcasecover",        KTPageTypeSlipcasecover       },
     {"slipcasepages",        KTPageTypeSlipcasepages       },
 };
-static_assert((bitsWithKeyword(KEYWORDS) | KTPageTypeAdvdoorback) == 0x1fffff,
+static_assert((KTKeywordRows::bits(KEYWORDS) | KTPageTypeAdvdoorback) == 0x1fffff,
               "every kind has a keyword but the back of a door");
 
 struct RuleRow
@@ -84,7 +84,8 @@ constexpr auto FINISHED_PAGES = KTPageTypeFullcover | KTPageTypeCardfront;
 
 const RuleRow &rules(const KTPageType &pageType)
 {
-    return rowOf(RULES, pageType.value(), pageType.matches(COVER_PARTS) ? OTHER_COVER_RULES : OTHER_RULES);
+    return KTFactRows::find(RULES, pageType.value(),
+                            pageType.matches(COVER_PARTS) ? OTHER_COVER_RULES : OTHER_RULES);
 }
 
 } // namespace
@@ -145,7 +146,7 @@ int KTPageType::acceptFotoRule() const
 
 void KTPageType::fillTable(KTEnumToStringTable<KTPageTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTPageType &pageType)

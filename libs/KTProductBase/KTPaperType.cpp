@@ -39,7 +39,7 @@ constexpr KTTextRow<KTPaperTypeEnum> NAMES[] = {
     {KTPaperTypeFotopaperPremiumMatt, QT_TRANSLATE_NOOP("KTPaperType", "Fotopapier Premium-Matt")          },
     {KTPaperTypeRecycled,             QT_TRANSLATE_NOOP("KTPaperType", "Digitaldruck Matt (100% recycelt)")},
 };
-static_assert(bitsWithKeyword(KEYWORDS) == (1 << std::size(NAMES)) - 1,
+static_assert(KTKeywordRows::bits(KEYWORDS) == (1 << std::size(NAMES)) - 1,
               "every paper has a keyword and a name");
 
 } // namespace
@@ -67,7 +67,7 @@ KTPaperType KTPaperType::createFromHumanReadable(const QString &name)
 
 KTLookUpTable<KTPaperType, QString> *KTPaperType::initPaperTypeNames()
 {
-    auto *const table = createTextTable<KTPaperType>("KTPaperType", NAMES);
+    auto *const table = KTFactRows::createTextTable<KTPaperType>("KTPaperType", NAMES);
     table->defaultValue = QCoreApplication::translate("KTPaperType", "unbekannter Papiertyp");
     return table;
 }
@@ -85,7 +85,7 @@ QString KTPaperType::humanReadableName() const
 
 void KTPaperType::fillTable(KTEnumToStringTable<KTPaperTypeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
     table->defaultValue = KTPaperTypeIndigo;
 }
 

@@ -2,6 +2,7 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
 #include <KTStdHash.h>
 
 #include <QHash>
@@ -43,7 +44,7 @@ Q_DECLARE_TYPEINFO(KTPriceClass, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTPriceClass)
 
 /** The hash of the code text with the same seed. */
-inline uint qHash(const KTPriceClass &priceClass, uint seed = 0)
+inline KTHashValue qHash(const KTPriceClass &priceClass, KTHashValue seed = 0)
 {
     return qHash(priceClass.toString(), seed);
 }

@@ -34,7 +34,7 @@ KTProductArrangement::KTProductArrangement(const QString &text)
 
 void KTProductArrangement::fillTable(KTEnumToStringTable<KTProductArrangementEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
 }
 
 QDebug operator<<(QDebug stream, const KTProductArrangement &arrangement)

@@ -55,11 +55,21 @@ QString normalised(const QString &code)
     return isShorter && code.isValidUtf16() ? family.toString() : code;
 }
 
+/** The hash that Qt 5 has for the text with seed 0; that of Qt 6 would put lists of types in another order.
+ */
+uint hashOf(const QString &code)
+{
+    uint hash = 0;
+    for (const QChar unit : code)
+        hash = 31 * hash + unit.unicode();
+    return hash;
+}
+
 } // namespace
 
 KTProductType::KTProductType(const QString &code)
     : myCode(normalised(code))
-    , myHashValue(myCode.isEmpty() ? 0 : qHash(myCode, 0))
+    , myHashValue(hashOf(myCode))
 {
 }
 

@@ -3,6 +3,7 @@
 #include "KTPriceClass.h"
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
 #include <KTStdHash.h>
 
 #include <QMetaType>
@@ -56,8 +57,8 @@ public:
     bool operator==(const KTProductType &other) const;
     bool operator!=(const KTProductType &other) const { return !(*this == other); }
     /**
-     * Orders by hash, and by code where the hashes are equal; so it is neither alphabetical nor the same on
-     * every machine. Codes that differ in case alone are ordered even if their hashes make them equal.
+     * Orders by hash, and by code where the hashes are equal; so it is not alphabetical. Codes that differ in
+     * case alone are ordered even if their hashes make them equal.
      */
     bool operator<(const KTProductType &other) const;
 
@@ -69,7 +70,7 @@ private:
 Q_DECLARE_TYPEINFO(KTProductType, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTProductType)
 
-inline uint qHash(const KTProductType &type, uint seed = 0)
+inline KTHashValue qHash(const KTProductType &type, KTHashValue seed = 0)
 {
     return type.calcHashValue() ^ seed;
 }

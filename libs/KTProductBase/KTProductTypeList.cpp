@@ -86,5 +86,5 @@ void KTProductTypeList::addWithoutDoubles(const KTProductTypeList &other)
 
 QDebug operator<<(QDebug stream, const KTProductTypeList &types)
 {
-    return stream << types.toStringList();
+    return QtPrivate::printSequentialContainer(stream, "", types.toStringList());
 }

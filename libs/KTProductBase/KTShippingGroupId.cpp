@@ -10,6 +10,8 @@
 #include <QDomNamedNodeMap>
 #include <QJsonObject>
 
+#include <optional>
+
 namespace {
 
 constexpr KTStringLiteral SHIPPING_GROUP_ID_KEY = "id";
@@ -49,9 +51,8 @@ KTShippingGroupId::KTShippingGroupId(const QDomNamedNodeMap &attributes, const Q
 
 KTShippingGroupId KTShippingGroupId::createFrom(const QString &text)
 {
-    bool ok = false;
-    const int id = text.toInt(&ok, 10);
-    return ok ? KTShippingGroupId(id) : KTShippingGroupId();
+    const std::optional<int> id = KTXMLParser::parseInt(text);
+    return id ? KTShippingGroupId(*id) : KTShippingGroupId();
 }
 
 QString KTShippingGroupId::defaultKey()

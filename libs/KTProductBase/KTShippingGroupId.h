@@ -2,6 +2,7 @@
 
 #include "ktproductbase_export.h"
 
+#include <KTQtTypes.h>
 #include <KTStdHash.h>
 
 #include <QMetaType>
@@ -78,7 +79,7 @@ Q_DECLARE_TYPEINFO(KTShippingGroupId, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(KTShippingGroupId)
 
 /** The number XOR the seed. */
-inline uint qHash(const KTShippingGroupId &groupId, uint seed = 0)
+inline KTHashValue qHash(const KTShippingGroupId &groupId, KTHashValue seed = 0)
 {
     return static_cast<uint>(groupId.id()) ^ seed;
 }

@@ -38,7 +38,7 @@ constexpr KTKeywordRow<KTSpaceMagnitudeEnum> KEYWORDS[] = {
     {"normal",  KTSpaceMagnitudeNormal },
     {"xl",      KTSpaceMagnitudeXL     },
 };
-static_assert(bitsWithKeyword(KEYWORDS) == KTSpaceMagnitudeAny, "every class has a keyword");
+static_assert(KTKeywordRows::bits(KEYWORDS) == KTSpaceMagnitudeAny, "every class has a keyword");
 
 // Only written: read back it is all classes because every unknown word is.
 constexpr KTStringLiteral ANY_KEYWORD = "any";
@@ -104,7 +104,7 @@ constexpr KTTextRow<KTSpaceMagnitudeEnum> NAMES[] = {
 
 const MagnitudeRow &facts(const KTSpaceMagnitude &magnitude)
 {
-    return rowOf(MAGNITUDES, magnitude.value(), UNDEFINED);
+    return KTFactRows::find(MAGNITUDES, magnitude.value(), UNDEFINED);
 }
 
 // What QFont::pointSizeF() says of a font that is sized in pixels.
@@ -150,7 +150,7 @@ KTSpaceMagnitude KTSpaceMagnitude::createFromHumanReadable(const QString &name)
 
 KTLookUpTable<KTSpaceMagnitude, QString> *KTSpaceMagnitude::initNames()
 {
-    auto *const table = createTextTable<KTSpaceMagnitude>("KTSpaceMagnitude", NAMES);
+    auto *const table = KTFactRows::createTextTable<KTSpaceMagnitude>("KTSpaceMagnitude", NAMES);
     table->defaultValue = QCoreApplication::translate("KTSpaceMagnitude", "Undefiniert");
     return table;
 }
@@ -222,7 +222,7 @@ QFont KTSpaceMagnitude::adaptFont(const QFont &font, const KTSpaceMagnitude &oth
 
 void KTSpaceMagnitude::fillTable(KTEnumToStringTable<KTSpaceMagnitudeEnum> *table) const
 {
-    insertKeywords(table, KEYWORDS);
+    KTKeywordRows::insert(table, KEYWORDS);
     table->defaultKeyword = ANY_KEYWORD;
     table->defaultValue = KTSpaceMagnitudeAny;
 }

@@ -32,7 +32,7 @@ inline QString filled(const QString &pairTemplate, const QString &key, const QSt
     constexpr int MOST_REPEATS = 100;
     constexpr qint64 MOST_REPEATED = 1000000;
     const QString withKey = pairTemplate.arg(key);
-    const int markers = withKey.count(PLACE_MARKER);
+    const KTSize markers = withKey.count(PLACE_MARKER);
     if (markers > MOST_REPEATS && qint64(markers) * value.size() > MOST_REPEATED)
         return pairTemplate.arg(key, value);
     return withKey.arg(value);
@@ -94,7 +94,7 @@ public:
 
     void append(QStringView key, QStringView value)
     {
-        const int size = myText.size();
+        const KTSize size = myText.size();
         if (std::find(key.begin(), key.end(), PLACE_MARKER) != key.end()) {
             if (size > 0)
                 myText.append(mySeparator);

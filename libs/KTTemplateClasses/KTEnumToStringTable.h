@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KTKeywordMap.h"
+#include "KTQtTypes.h"
 
 #include <QByteArray>
 #include <QDebug>
@@ -255,7 +256,7 @@ QString KTEnumToStringTable<ENUM>::debugText(ENUM value) const
 template <typename ENUM>
 QString KTEnumToStringTable<ENUM>::joined(const QString *const *first, const QString *const *last)
 {
-    int size = 0;
+    KTSize size = 0;
     for (const QString *const *text = first; text != last; ++text)
         size += (*text)->size() + SEPARATOR_SIZE;
     QString result(size, Qt::Uninitialized);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KTEnumToStringTable.h"
+#include "KTQtTypes.h"
 
 #include <QAtomicPointer>
 #include <QMutex>
@@ -195,7 +196,7 @@ KTEnumToStringTable<ENUM> *KTEnumWrapper<ENUM>::createTable(TablePointer *shared
 
 /** Hashes the value; equal wrappers are equal keys. */
 template <typename ENUM>
-uint qHash(const KTEnumWrapper<ENUM> &wrapper, uint seed = 0)
+KTHashValue qHash(const KTEnumWrapper<ENUM> &wrapper, KTHashValue seed = 0)
 {
     return ::qHash(static_cast<std::underlying_type_t<ENUM>>(wrapper.value()), seed);
 }

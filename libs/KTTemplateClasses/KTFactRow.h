@@ -17,9 +17,11 @@ struct KTTextRow
     const char *text;
 };
 
+namespace KTFactRows {
+
 /** The row of exactly this value, or the fallback. */
 template <typename ROW, std::size_t N, typename VALUE>
-constexpr const ROW &rowOf(const ROW (&rows)[N], VALUE value, const ROW &fallback)
+constexpr const ROW &find(const ROW (&rows)[N], VALUE value, const ROW &fallback)
 {
     for (const ROW &row : rows) {
         if (row.value == value)
@@ -37,3 +39,5 @@ template <typename KEY, typename ROW, std::size_t N>
         table->map.insert(row.value, QCoreApplication::translate(context, row.text));
     return table;
 }
+
+} // namespace KTFactRows

@@ -14,9 +14,11 @@ struct KTKeywordRow
     ENUM value;
 };
 
+namespace KTKeywordRows {
+
 /** Inserts the rows in their order, which decides what is written for a value with several keywords. */
 template <typename ENUM, std::size_t N>
-void insertKeywords(KTEnumToStringTable<ENUM> *table, const KTKeywordRow<ENUM> (&rows)[N])
+void insert(KTEnumToStringTable<ENUM> *table, const KTKeywordRow<ENUM> (&rows)[N])
 {
     for (const KTKeywordRow<ENUM> &row : rows)
         table->insert(row.keyword, row.value);
@@ -24,7 +26,7 @@ void insertKeywords(KTEnumToStringTable<ENUM> *table, const KTKeywordRow<ENUM> (
 
 /** The bits that have a keyword of their own, to prove at compile time that none was forgotten. */
 template <typename ENUM, std::size_t N>
-constexpr std::underlying_type_t<ENUM> bitsWithKeyword(const KTKeywordRow<ENUM> (&rows)[N])
+constexpr std::underlying_type_t<ENUM> bits(const KTKeywordRow<ENUM> (&rows)[N])
 {
     std::underlying_type_t<ENUM> bits = 0;
     for (const KTKeywordRow<ENUM> &row : rows) {
@@ -33,3 +35,5 @@ constexpr std::underlying_type_t<ENUM> bitsWithKeyword(const KTKeywordRow<ENUM> 
     }
     return bits;
 }
+
+} // namespace KTKeywordRows

@@ -7,6 +7,7 @@
 #include "KTShowCommand.h"
 
 #include <KTNearestWord.h>
+#include <KTProductBaseVersion.h>
 
 #include <QGuiApplication>
 
@@ -107,7 +108,7 @@ int main(int argc, char *argv[])
     const std::unique_ptr<QCoreApplication> application = createApplication(argc, argv);
     qInstallMessageHandler(&printMessage);
     QCoreApplication::setApplicationName(QStringLiteral("ktcatalogue"));
-    QCoreApplication::setApplicationVersion(QString::fromLatin1(KT_VERSION));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KTPRODUCTBASE_VERSION_STRING));
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(KTFileName::fromBytes(argv[i]));

@@ -6,6 +6,7 @@
 #include "KTFindingWriter.h"
 #include "KTParallelCheck.h"
 
+#include <KTArithmetic.h>
 #include <KTCatalogueChecker.h>
 #include <KTNearestWord.h>
 
@@ -309,7 +310,7 @@ KTExitCode checkFiles(const QStringList &names, const Options &options)
         checkOneByOne(names, options, &output);
     else
         checkAtOnce(names, options, &output);
-    return output.end(names.size());
+    return output.end(KTArithmetic::sizeOf(names));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "KTConsole.h"
 #include "KTNearestWord.h"
 
+#include <KTArithmetic.h>
 #include <KTCatalogueFormat.h>
 
 #include <QJsonArray>
@@ -67,7 +68,7 @@ QString aligned(const QVector<QStringList> &lines)
     QVector<int> widths(lines.constFirst().size(), 0);
     for (const QStringList &line : lines) {
         for (int i = 0; i < widths.size(); ++i)
-            widths[i] = std::max(widths.at(i), line.at(i).size());
+            widths[i] = std::max(widths.at(i), KTArithmetic::sizeOf(line.at(i)));
     }
     QString text;
     for (const QStringList &line : lines) {

@@ -8,6 +8,7 @@
 #include "KTTerminalText.h"
 
 #include <KTOrderDraft.h>
+#include <KTQtTypes.h>
 #include <KTVariantsText.h>
 
 #include <QJsonDocument>
@@ -51,7 +52,7 @@ std::optional<KTArticleVariants> choices(const QStringList &texts)
 {
     KTArticleVariants choices;
     for (const QString &text : texts) {
-        const int separator = text.indexOf(QLatin1Char('='));
+        const KTSize separator = text.indexOf(QLatin1Char('='));
         if (separator <= 0) {
             KTConsole::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(text));
             return std::nullopt;

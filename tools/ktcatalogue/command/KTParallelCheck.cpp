@@ -2,6 +2,7 @@
 
 #include "KTFileName.h"
 
+#include <KTArithmetic.h>
 #include <KTCatalogueChecker.h>
 
 #include <QFile>
@@ -16,7 +17,7 @@ KTParallelCheck::KTParallelCheck(const QStringList &names, const KTRuleSeveritie
     , myResults(static_cast<std::size_t>(names.size()))
 {
     try {
-        for (int i = 0; i < std::min(threads, names.size()); ++i)
+        for (int i = 0; i < std::min(threads, KTArithmetic::sizeOf(names)); ++i)
             myThreads.emplace_back([this] { work(); });
     } catch (const std::system_error &) {
         // The machine has no further thread to give; without any, take() does the work.

@@ -7,6 +7,7 @@
 #include "KTPreviewPainter.h"
 
 #include <KTOrderDraft.h>
+#include <KTQtTypes.h>
 
 #include <QBuffer>
 #include <QDateTime>
@@ -97,7 +98,7 @@ QByteArray pdf(const KTPreviewPainter &preview, const QString &title)
     if (!buffer.open(QIODevice::WriteOnly) || !paintOn(&writer, preview, 1.0))
         return QByteArray();
     const QByteArray label = "/CreationDate (D:";
-    const int place = bytes.indexOf(label);
+    const KTSize place = bytes.indexOf(label);
     if (place >= 0 && !date.isEmpty())
         bytes.replace(place + label.size(), date.size(), date);
     return bytes;

@@ -2,6 +2,7 @@
 
 #include "KTTerminalText.h"
 
+#include <KTArithmetic.h>
 #include <KTArticleDescription.h>
 #include <KTArticleVariants.h>
 
@@ -32,7 +33,7 @@ const QString OPTIONS = QStringLiteral("options");
 
 QString withoutBlanksAtEnd(QString line)
 {
-    int length = line.size();
+    KTSize length = line.size();
     while (length > 0 && line.at(length - 1) == QLatin1Char(' '))
         --length;
     line.truncate(length);
@@ -62,7 +63,7 @@ int widest(const QVector<Row> &rows, Getter getter)
 {
     int width = 0;
     for (const Row &row : rows)
-        width = std::max(width, escaped(getter(row)).size());
+        width = std::max(width, KTArithmetic::sizeOf(escaped(getter(row))));
     return width;
 }
 

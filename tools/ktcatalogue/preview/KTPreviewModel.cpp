@@ -2,6 +2,7 @@
 
 #include "KTTerminalText.h"
 
+#include <KTArithmetic.h>
 #include <KTArticle.h>
 #include <KTMillimeterText.h>
 
@@ -205,7 +206,7 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
                 note(inner ? QStringLiteral("not drawn") : QStringLiteral("its size is not known"));
                 continue;
             }
-            figureOfPage.insert(pageNr, model->figures.size());
+            figureOfPage.insert(pageNr, KTArithmetic::sizeOf(model->figures));
             model->figures.append(figureOf(*inner, QStringLiteral("Page %1").arg(pageNr)));
         }
         KTPreviewModel::Figure &figure = model->figures[figureOfPage.value(pageNr)];

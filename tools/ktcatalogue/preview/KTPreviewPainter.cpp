@@ -1,5 +1,7 @@
 #include "KTPreviewPainter.h"
 
+#include <KTArithmetic.h>
+
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -156,8 +158,8 @@ KTPreviewPainter::KTPreviewPainter(const KTPreviewModel &model)
         width += figure.total.width();
         height = std::max(height, figure.total.height());
     }
-    const double room = CONTENT_WIDTH - myModel.figures.size() * 2 * DIMENSION_STRIP
-        - (myModel.figures.size() - 1) * FIGURE_GAP;
+    const double room = CONTENT_WIDTH - KTArithmetic::sizeOf(myModel.figures) * 2 * DIMENSION_STRIP
+        - (KTArithmetic::sizeOf(myModel.figures) - 1) * FIGURE_GAP;
     const auto fits
         = [=](double scale) { return width / scale <= room && height / scale <= MAX_FIGURE_HEIGHT; };
     const auto *const scale = std::find_if(std::begin(SCALES), std::end(SCALES), fits);
@@ -180,7 +182,7 @@ void KTPreviewPainter::paint(QPainter *painter) const
     painter->fillRect(QRect(QPoint(), sheetSize()), Qt::white);
     paintTitle(painter);
     paintScaleBar(painter);
-    double width = (myModel.figures.size() - 1) * FIGURE_GAP;
+    double width = (KTArithmetic::sizeOf(myModel.figures) - 1) * FIGURE_GAP;
     for (const KTPreviewModel::Figure &figure : myModel.figures)
         width += figureWidth(figure);
     QPointF corner((SHEET_WIDTH - width) * 0.5, MARGIN + TITLE_HEIGHT);
@@ -451,7 +453,7 @@ QVector<KTPreviewPainter::PlacedRow> KTPreviewPainter::placedRows(const QVector<
     for (const LegendRow &row : rows) {
         int needed = 1;
         if (isHeader(row)) {
-            const auto *const next = std::find_if(&row + 1, rows.constEnd(), isHeader);
+            const auto *const next = std::find_if(&row + 1, rows.constData() + rows.size(), isHeader);
             const auto size = static_cast<int>(next - &row);
             needed = keepsGroups ? size : std::min(size, 2);
             line += line > 0 ? 1 : 0;
