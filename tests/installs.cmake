@@ -14,7 +14,7 @@ run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/consumer" -B "${SCRATCH_DIR}/bui
     "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/build")
 run("${SCRATCH_DIR}/build/consumer")
-# The example is built as a newcomer would build it, and says what its page says.
+# The examples are built as a newcomer would build it, and the first one says what its page says.
 run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/../examples/order" -B "${SCRATCH_DIR}/order"
     "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/order")
@@ -26,6 +26,9 @@ file(READ "${SOURCE_DIR}/data/order-example.txt" expected)
 if(NOT said STREQUAL expected)
     message(FATAL_ERROR "the example says:\n${said}and not:\n${expected}")
 endif()
+run(${CMAKE_COMMAND} -G Ninja -S "${SOURCE_DIR}/../examples/configurator" -B "${SCRATCH_DIR}/configurator"
+    "-DCMAKE_PREFIX_PATH=${SCRATCH_DIR}/moved" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}")
+run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/configurator")
 run("${SCRATCH_DIR}/moved/bin/ktcatalogue" --version)
 # A drawing needs neither a display nor an environment.
 run(${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM "${SCRATCH_DIR}/moved/bin/ktcatalogue" preview
