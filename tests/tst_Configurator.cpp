@@ -35,7 +35,7 @@ public:
     }
 
     QString fileName() const { return myFolder.filePath(u"catalogue.xml"_s); }
-    void write(const QByteArray &articles)
+    void write(const QByteArray &articles) const
     {
         QFile file(fileName());
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -108,6 +108,7 @@ public:
     void enterMCF(const QString &text) const
     {
         auto *field = find<QLineEdit>(u"MCF:"_s);
+        field->setFocus();
         field->selectAll();
         QTest::keyClicks(field, text);
         QTest::keyClick(field, Qt::Key_Return);
@@ -232,6 +233,8 @@ private Q_SLOTS:
         // Another article begins anew.
         desk.filter(u"leinen"_s);
         QCOMPARE(desk.orderText(), u"alcolor:natural"_s);
+        desk.window->chooseArticle(u"9101"_s);
+        QCOMPARE(desk.orderText(), u"border:none"_s);
     }
 
     void followsChoices()
@@ -266,10 +269,31 @@ private Q_SLOTS:
         QVERIFY(!spread.barcodes.constFirst().image.isNull());
     }
 
+    void laysOutSidesThatDiffer()
+    {
+        const Desk desk(
+            book("pages='8'",
+                 "<page type='normalpage' alignment='left,right' units='mm' width='1' height='1'/>"
+                 "<page type='leather' alignment='right' units='mm' width='90' height='70' "
+                 "bleed_top='3' bleed_bottom='4' bleed_left='5' bleed_right='6'/>"
+                 "<page type='leather' alignment='left' units='mm' width='80' height='72' "
+                 "bleed_top='1' bleed_bottom='1' bleed_left='2' bleed_right='9'/>"
+                 "<barcodes units='mm'><barcode pageNr='1' width='9' height='9'/>"
+                 "<barcode position_x='1' position_y='9' width='2' height='8'/></barcodes>"));
+        const CoverPreview::Spread &spread = desk.cover()->spread();
+        QCOMPARE(spread.back, QRectF(20, 30, 800, 720));
+        QCOMPARE(spread.front, QRectF(820, 30, 900, 700));
+        QCOMPARE(spread.total, QRectF(0, 0, 1780, 770));
+        QCOMPARE(spread.barcodes.size(), 1);
+        QCOMPARE(spread.barcodes.constFirst().place, QRectF(30, 40, 20, 80));
+    }
+
     void takesOverSavedChoices()
     {
         const Desk desk;
         desk.enterMCF(u"alcolor:gold,coverphoto:no,ribbon:red"_s);
+        // It is still said when the field is left.
+        desk.find<QLineEdit>(u"Order text:"_s)->setFocus();
         QCOMPARE(desk.notice(),
                  u"Article 7301 does not offer 'gold' for 'alcolor'; offered: black, red, sand.\n"
                  "Article 7301 has no option 'ribbon'; offered: alcolor, coverphoto, flyleafcolor, "

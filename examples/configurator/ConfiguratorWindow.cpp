@@ -91,8 +91,6 @@ ConfiguratorWindow::ConfiguratorWindow(KTCatalogue *catalogue, QWidget *parent)
         filterArticles(QString());
 }
 
-ConfiguratorWindow::~ConfiguratorWindow() = default;
-
 QWidget *ConfiguratorWindow::createArticlePane()
 {
     myFilter = new QLineEdit;
@@ -168,7 +166,8 @@ QWidget *ConfiguratorWindow::createOrderPane()
     form->addRow(tr("&Notice:"), myNotice);
 
     // Only what the user does: what the window shows itself is no choice.
-    connect(myPages, qOverload<int>(&QComboBox::activated), this, &ConfiguratorWindow::choosePages);
+    connect(myPages, qOverload<int>(&QComboBox::activated), this,
+            [this](int row) { showAnswer(refusalText(myOrder.setPages(myPageCounts.pagesAtIndex(row)))); });
     connect(myMCF, &QLineEdit::editingFinished, this, &ConfiguratorWindow::takeOverMCF);
 
     auto *pane = new QWidget;
@@ -234,8 +233,7 @@ void ConfiguratorWindow::showCurrentArticle()
     }
     myPageCounts.setPageOrganization(counts, article.articleClass().hasValue(KTArticleClassPictureBox));
     myPages->setEnabled(myPageCounts.rowCount() > 1);
-    if (const auto refusal = myOrder.setPages(counts.minPages()))
-        notices.append(refusalText(*refusal));
+    notices.append(refusalText(myOrder.setPages(counts.minPages())));
     showAnswer(notices.join(QLatin1Char('\n')).trimmed());
 }
 
@@ -263,7 +261,9 @@ void ConfiguratorWindow::showOptions()
                 = new QRadioButton(caption(option.isNotAccountable() ? tr("%1 (free)").arg(name) : name));
             if (hasColors)
                 button->setIcon(swatch(option.color()));
-            connect(button, &QRadioButton::clicked, this, [this, option] { chooseOption(option); });
+            connect(button, &QRadioButton::clicked, this, [this, option] {
+                showAnswer(refusalText(myOrder.choose(option.key(), option.value())));
+            });
             column->addWidget(button);
             myOptionButtons.append({option, button});
         }
@@ -272,6 +272,7 @@ void ConfiguratorWindow::showOptions()
         layout->addWidget(new QLabel(tr("There is nothing to choose.")));
     layout->addStretch();
     myOptions->setWidget(pane);
+    // Qt asks for it where the area is already seen.
     pane->show();
 
     // The keyboard reaches the buttons here, although they are newer than what stands below.
@@ -318,18 +319,6 @@ QStringList ConfiguratorWindow::openChoices() const
     return names;
 }
 
-void ConfiguratorWindow::chooseOption(const KTConfiguredArticleVariant &option)
-{
-    const auto refusal = myOrder.choose(option.key(), option.value());
-    showAnswer(refusal ? refusalText(*refusal) : QString());
-}
-
-void ConfiguratorWindow::choosePages(int row)
-{
-    const auto refusal = myOrder.setPages(myPageCounts.pagesAtIndex(row));
-    showAnswer(refusal ? refusalText(*refusal) : QString());
-}
-
 void ConfiguratorWindow::takeOverMCF()
 {
     // The field is also done with when it is merely left.
@@ -347,7 +336,8 @@ void ConfiguratorWindow::showAnswer(const QString &notice)
     showOrder();
 }
 
-QString ConfiguratorWindow::refusalText(const KTOrderRefusal &refusal) const
+QString ConfiguratorWindow::refusalText(const std::optional<KTOrderRefusal> &refusal) const
 {
-    return tr("Article %1 %2.").arg(myOrder.article().articleId().toString(), refusal.toString());
+    return refusal ? tr("Article %1 %2.").arg(myOrder.article().articleId().toString(), refusal->toString())
+                   : QString();
 }

@@ -9,6 +9,8 @@
 #include <QVector>
 #include <QWidget>
 
+#include <optional>
+
 class CoverPreview;
 class KTCatalogue;
 class QComboBox;
@@ -32,7 +34,6 @@ class ConfiguratorWindow : public QWidget
 public:
     /** Shows the first article. The catalogue must live longer than the window. */
     explicit ConfiguratorWindow(KTCatalogue *catalogue, QWidget *parent = nullptr);
-    ~ConfiguratorWindow() override;
 
     /** Says so in the window when there is no article with the number. */
     void chooseArticle(const QString &number);
@@ -50,12 +51,11 @@ private:
     void showOrder();
     QStringList openChoices() const;
 
-    void chooseOption(const KTConfiguredArticleVariant &option);
-    void choosePages(int row);
     void takeOverMCF();
     /** Shows what has become of the order, and what there is to say about it. */
     void showAnswer(const QString &notice);
-    QString refusalText(const KTOrderRefusal &refusal) const;
+    /** Empty for none. */
+    QString refusalText(const std::optional<KTOrderRefusal> &refusal) const;
 
     KTCatalogue *myCatalogue;
     KTOrderDraft myOrder;

@@ -154,8 +154,8 @@ void CoverPreview::paintEvent(QPaintEvent *)
     // Only the rectangles are scaled, so that lines and texts look the same on every cover.
     const QSizeF sheet = mySpread.total.size();
     const double captionHeight = CAPTION_LINES * fontMetrics().lineSpacing() + MARGIN;
-    const double scale
-        = std::min(room.width() / sheet.width(), (room.height() - captionHeight) / sheet.height());
+    const double scale = std::max(
+        0.0, std::min(room.width() / sheet.width(), (room.height() - captionHeight) / sheet.height()));
     QTransform transform = QTransform::fromScale(scale, scale);
     transform
         *= QTransform::fromTranslate(room.center().x() - sheet.width() * scale / 2.0,
