@@ -182,14 +182,14 @@ private Q_SLOTS:
             u"[Digitaldruck Matt (free)] Digitaldruck Hochglanz"_s, u"28 Seiten, 1 of 9"_s,
             u"Back 147.3 x 104.1 mm, Front 147.3 x 104.1 mm, With bleed 300.6 x 110.1 mm"_s);
         row("one side", u"4120"_s, {u"4120  Wandkalender A3 quer"_s, none, u"Still open: Kalenderleiste"_s},
-            u"[Januar (free)] Juli (free) Aluminium Eiche"_s, u"13 Seiten, only"_s,
+            u"[Januar (free)] Juli (free) Aluminium Eiche"_s, u"13 Seiten, 1 of 1"_s,
             u"Front 420.0 x 297.0 mm, With bleed 424.0 x 301.0 mm"_s);
         row("without options and sizes", u"4135"_s,
-            {u"4135  Tischkalender Panorama"_s, none, complete, nothing}, QString(), u"24 Seiten, only"_s,
+            {u"4135  Tischkalender Panorama"_s, none, complete, nothing}, QString(), u"24 Seiten, 1 of 1"_s,
             u"The catalogue gives no page sizes."_s);
         row("without page counts", u"9024"_s,
-            {u"9024  Foto 10 x 15, gl\u00e4nzend"_s, none, complete, nothing}, QString(), u"1 Seiten, only"_s,
-            u"The catalogue gives no page sizes."_s);
+            {u"9024  Foto 10 x 15, gl\u00e4nzend"_s, none, complete, nothing}, QString(),
+            u"1 Seiten, 1 of 1"_s, u"The catalogue gives no page sizes."_s);
         row("counted in photos", u"8840"_s, {u"8840  Erinnerungsbox mit 30 Fotos"_s, none, complete},
             u"[Holzbox] Leinenbox [Graviert] Gedruckt"_s, u"5 Fotos, 1 of 30"_s,
             u"The catalogue gives no page sizes."_s);
@@ -203,9 +203,7 @@ private Q_SLOTS:
         QTEST(desk.lines(), "lines");
         QTEST(desk.options(), "options");
         const QComboBox *pages = desk.pages();
-        const QString place = pages->isEnabled()
-            ? QStringLiteral("%1 of %2").arg(pages->currentIndex() + 1).arg(pages->count())
-            : u"only"_s;
+        const QString place = QStringLiteral("%1 of %2").arg(pages->currentIndex() + 1).arg(pages->count());
         QTEST(QString(pages->currentText() + u", "_s + place), "pages");
         QTEST(desk.cover()->accessibleDescription().replace(u'\n', u", "_s), "cover");
         QCOMPARE(desk.notice(), QString());

@@ -232,7 +232,6 @@ void ConfiguratorWindow::showCurrentArticle()
         counts = counts.clone(true);
     }
     myPageCounts.setPageOrganization(counts, article.articleClass().hasValue(KTArticleClassPictureBox));
-    myPages->setEnabled(myPageCounts.rowCount() > 1);
     notices.append(refusalText(myOrder.setPages(counts.minPages())));
     showAnswer(notices.join(QLatin1Char('\n')).trimmed());
 }
