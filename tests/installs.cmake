@@ -41,7 +41,7 @@ file(RENAME "${SCRATCH_DIR}/first" "${moved}")
 run(${configure} -S "${SOURCE_DIR}/consumer" -B "${SCRATCH_DIR}/build")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/build")
 run("${SCRATCH_DIR}/build/consumer")
-# The example is built as a newcomer would build it, and says what its page says.
+# The examples are built as a newcomer would build them, and the first one says what its page says.
 run(${configure} -S "${SOURCE_DIR}/../examples/order" -B "${SCRATCH_DIR}/order")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/order")
 execute_process(
@@ -51,6 +51,8 @@ file(READ "${SOURCE_DIR}/data/order-example.txt" expected)
 if(NOT output STREQUAL expected)
     message(FATAL_ERROR "the example says:\n${output}\nand not:\n${expected}")
 endif()
+run(${configure} -S "${SOURCE_DIR}/../examples/configurator" -B "${SCRATCH_DIR}/configurator")
+run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/configurator")
 run("${moved}/bin/ktcatalogue" --version)
 # A drawing needs neither a display nor an environment.
 run(${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM "${moved}/bin/ktcatalogue" preview "${sample}"
