@@ -62,6 +62,10 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+# Each package has its own.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 
 # Debian's names: a library whose name ends in a digit has a hyphen before its version.
 if(KT_SUFFIX)
@@ -73,11 +77,11 @@ set(development "libktproductbase${KT_SUFFIX}-dev")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${library}")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/packaging/triggers")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "product model of printed photo products (Qt ${QT_VERSION_MAJOR})
- Value classes for article numbers, options and their order texts,
- classifications, page counts and layout of printed photo products, and the
- reading and checking of catalogues.")
+Value classes for article numbers, options and their order texts,
+classifications, page counts and layout of printed photo products, and the
+reading and checking of catalogues.")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "${development}")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -89,17 +93,19 @@ else()
 endif()
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION}), ${qt_development}")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "development files of the product model (Qt ${QT_VERSION_MAJOR})
- Headers, the packages of CMake and pkg-config, and the links to the libraries
- that programs for printed photo products are built with.")
+Headers, the packages of CMake and pkg-config, and the links to the libraries
+that programs for printed photo products are built with.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ktcatalogue)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION text)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${library} (>= ${PROJECT_VERSION})")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "inspector of catalogues of printed photo products
- Shows what the product model makes of a catalogue, writes order texts, draws
- covers to scale, and finds what is passed over in silence.")
+Shows what the product model makes of a catalogue, writes order texts, draws
+covers to scale, and finds what is passed over in silence.")
 
 # Compresses manual pages and puts what Debian wants to have beside each package.
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/finish.cmake")
+set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/packaging/repack.cmake")
 set(CPACK_KT_PACKAGING_DIR "${PROJECT_SOURCE_DIR}/packaging")
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)

@@ -27,10 +27,14 @@ QString libraryFolder()
     return QFileInfo(QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath()).path();
 }
 
-QString installedRoot()
+/** Looked for once; no member of the class, whose size programs that were built with 1.0.0 rely on. */
+const QString &installedRoot()
 {
-    const QFileInfo root(QDir(libraryFolder()), QStringLiteral(KT_RESOURCES_FROM_LIBRARY));
-    return root.isDir() ? root.canonicalFilePath() : QString();
+    static const auto *const myRoot = [] {
+        const QFileInfo root(QDir(libraryFolder()), QStringLiteral(KT_RESOURCES_FROM_LIBRARY));
+        return new QString(root.isDir() ? root.canonicalFilePath() : QString());
+    }();
+    return *myRoot;
 }
 
 /** The folder that the environment names; empty, with a warning, where that is no folder. */
@@ -65,10 +69,9 @@ QString fileBelow(const QString &folder, const QString &name)
 } // namespace
 
 KTDirectoryConfig::KTDirectoryConfig()
-    : myInstalledRoot(installedRoot())
 {
     const QString root = environmentRoot();
-    setResourceRoot(root.isEmpty() ? myInstalledRoot : root);
+    setResourceRoot(root.isEmpty() ? installedRoot() : root);
 }
 
 void KTDirectoryConfig::setResourceRoot(const QString &path)
@@ -81,5 +84,5 @@ QString KTDirectoryConfig::resource(const QString &name, bool) const
     if (!isRelativeWithoutDetour(name))
         return QString();
     const QString path = fileBelow(myResourceRoot, name);
-    return path.isEmpty() ? fileBelow(myInstalledRoot, name) : path;
+    return path.isEmpty() ? fileBelow(installedRoot(), name) : path;
 }

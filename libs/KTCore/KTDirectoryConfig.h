@@ -34,6 +34,5 @@ public:
     [[nodiscard]] QString resource(const QString &name, bool reserved) const;
 
 private:
-    QString myInstalledRoot;
     QString myResourceRoot;
 };
