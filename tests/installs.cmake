@@ -65,7 +65,7 @@ set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
 run(pkg-config --cflags --libs ${catalogue})
 separate_arguments(flags UNIX_COMMAND "${output}")
 get_filename_component(lib_dir "${pc_dir}" DIRECTORY)
-run(${CXX_COMPILER} -fPIC "${SOURCE_DIR}/consumer/main.cpp" -o "${SCRATCH_DIR}/plain" ${flags}
+run(${CXX_COMPILER} -fPIC "${SOURCE_DIR}/consumer/main.cpp" "${SOURCE_DIR}/consumer/umbrella.cpp" -o "${SCRATCH_DIR}/plain" ${flags}
     "-Wl,-rpath,${lib_dir}")
 run("${SCRATCH_DIR}/plain")
 

@@ -2,6 +2,7 @@
 
 #include "KTTestSupport.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -190,6 +191,36 @@ private Q_SLOTS:
             QVERIFY2(members.size() < before.size(), qPrintable(documented));
         }
         QCOMPARE(members, QSet<QString>());
+    }
+
+    void showsRecipes_data()
+    {
+        QTest::addColumn<QString>("section");
+        QStringList recipes = QDir(QStringLiteral(KT_SOURCE_DIR "/docs/recipes")).entryList({u"*.cpp"_s});
+        for (const QString &section : contentOf(u"docs/recipes.md"_s).split(u"\n## "_s).mid(1)) {
+            const QString recipe = captures(section, u"\\(recipes/(\\w+\\.cpp)\\)"_s).value(0);
+            QVERIFY2(recipes.removeOne(recipe), qPrintable(section));
+            QTest::newRow(qPrintable(recipe.chopped(4))) << section;
+        }
+        QCOMPARE(recipes, QStringList());
+    }
+    void showsRecipes()
+    {
+        QFETCH(QString, section);
+        const QString recipe = QString::fromLatin1(QTest::currentDataTag());
+        QString snippets;
+        for (QString snippet : captures(contentOf(u"docs/recipes/%1.cpp"_s.arg(recipe)),
+                                        u"^ *//! \\[\\w+\\]\n((?:.*\n)*?) *//! \\["_s)) {
+            // Those inside main() are indented once.
+            if (snippet.startsWith(u"    "_s))
+                snippet.replace(QRegularExpression(u"^    "_s, QRegularExpression::MultilineOption),
+                                QString());
+            snippets += snippet;
+        }
+        QVERIFY(!snippets.isEmpty());
+        QCOMPARE(captures(section, u"```cpp\n((?:.*\n)*?)```"_s).join(QString()), snippets);
+        QCOMPARE(captures(section, u"```text\n((?:.*\n)*?)```"_s).value(0),
+                 outputOf(QStringLiteral(KT_RECIPES "/") + recipe, {}));
     }
 
     void completesWords()

@@ -42,6 +42,7 @@ struct KTCATALOGUE_EXPORT KTArticleDescription
         Value value;
     };
 
+    /** Something to say about the article: a line for people, facts for programs. */
     struct Row
     {
         /**
@@ -58,6 +59,7 @@ struct KTCATALOGUE_EXPORT KTArticleDescription
         QVector<Fact> facts;
     };
 
+    /** Rows that belong together. */
     struct Section
     {
         /** Where programs find the facts, unless they are the article's: "pages", "pageCounts.samples". */

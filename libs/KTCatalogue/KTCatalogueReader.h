@@ -23,6 +23,7 @@ enum class KTCatalogueErrorKind {
     Changed,
 };
 
+/** Why and where the reading of a file ended. */
 struct KTCatalogueError
 {
     KTCatalogueErrorKind kind = KTCatalogueErrorKind::None;

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+/** How much a finding weighs. */
 enum class KTSeverity {
     Hint,
     Warning,
@@ -51,6 +52,7 @@ enum class KTRule {
     COUNT,
 };
 
+/** What the documentation and the check itself say about a rule. */
 struct KTRuleRow
 {
     KTRule rule;
@@ -62,16 +64,21 @@ struct KTRuleRow
     const char *explanation;
 };
 
+/** The table of the rules. */
 namespace KTCheckRules {
 
+/** The number of rules. */
 constexpr int COUNT = static_cast<int>(KTRule::COUNT);
 
+/** The rule's row. */
 KTCATALOGUE_EXPORT const KTRuleRow &row(KTRule rule);
 /** The row at the index, which is the rule's number. */
 KTCATALOGUE_EXPORT const KTRuleRow &at(int index);
 /** Null for a name that no rule has. */
 KTCATALOGUE_EXPORT const KTRuleRow *find(const QString &name);
+/** The names of all rules, in the order of the documentation. */
 KTCATALOGUE_EXPORT QStringList names();
+/** As in "[unknown-keyword]", without the brackets. */
 KTCATALOGUE_EXPORT QString name(KTRule rule);
 /** "error", "warning" or "hint". */
 KTCATALOGUE_EXPORT QString name(KTSeverity severity);

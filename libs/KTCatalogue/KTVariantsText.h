@@ -10,7 +10,9 @@
  */
 namespace KTVariantsText {
 
+/** KTArticleVariants::toMCF() in that order. */
 KTCATALOGUE_EXPORT QString mcf(const KTArticleVariants &variants);
+/** KTArticleVariants::toOrderTxt() in that order. */
 KTCATALOGUE_EXPORT QString orderText(const KTArticleVariants &variants);
 /**
  * Reads pairs separated by ";", each as the keyword string's; others are skipped. Gives back the production

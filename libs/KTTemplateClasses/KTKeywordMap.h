@@ -120,6 +120,7 @@ template <typename KEY, typename VALUE>
 class Q_DECL_EXPORT KTKeywordMap
 {
 public:
+    /** A key with its value. */
     struct Entry
     {
         KEY key;

@@ -21,11 +21,13 @@ struct KTXML_EXPORT KTXMLFragment
         int begin;
         int length;
     };
+    /** An attribute as it stands in its element. */
     struct Attribute
     {
         Slice name;
         Slice value;
     };
+    /** An element; its attributes lie side by side in the list of all. */
     struct Element
     {
         Slice name;
