@@ -3,6 +3,7 @@
 #include <KTPageCountOrganizationListModel.h>
 
 #include "KTTestSupport.h"
+#include "KTTranslationFile.h"
 
 #include <QProcess>
 #include <QSet>
@@ -38,16 +39,23 @@ private Q_SLOTS:
         QCOMPARE(QProcess::execute(QStringLiteral(KT_LUPDATE),
                                    {u"-silent"_s, QStringLiteral(KT_LIBS), u"-ts"_s, file}),
                  0);
-        QFile texts(file);
-        QVERIFY(texts.open(QIODevice::ReadOnly));
-        const QDomElement ts = KTTest::element(QString::fromUtf8(texts.readAll()));
-        const QDomNodeList sources = ts.elementsByTagName(u"source"_s);
-        for (int i = 0; i < sources.size(); ++i) {
-            const QDomElement context = sources.at(i).parentNode().parentNode().toElement();
-            myTranslator.texts.insert(
-                {context.firstChildElement(u"name"_s).text(), sources.at(i).toElement().text()});
-        }
+        for (const KTTest::Message &message : KTTest::messagesIn(file))
+            myTranslator.texts.insert({message.context, message.source});
         QCoreApplication::installTranslator(&myTranslator);
+    }
+
+    void isComplete()
+    {
+        QSet<QPair<QString, QString>> texts;
+        for (const KTTest::Message &message :
+             KTTest::messagesIn(QStringLiteral(KT_TRANSLATIONS "/ktproductbase_en.ts"))) {
+            texts.insert({message.context, message.source});
+            QVERIFY2(message.type.isEmpty() && !message.translation.isEmpty(), qPrintable(message.source));
+            for (const QString &place : {u"%1"_s, u"%2"_s, u"\n"_s})
+                QCOMPARE(message.translation.count(place), message.source.count(place));
+        }
+        QCOMPARE(texts, myTranslator.texts);
+        QVERIFY(texts.size() >= 75);
     }
 
     void losesNoText()

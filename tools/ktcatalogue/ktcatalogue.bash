@@ -11,7 +11,7 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show check order preview keywords --help --version -h -v"
+        words="show check order preview keywords --help --language --version -h -v"
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
@@ -23,6 +23,7 @@ _ktcatalogue() {
             ;;
         check:--files-from | check:--max-findings | check:-j) return ;;
         keywords:--format) words="text json markdown" ;;
+        *:--language) words="de en" ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)

@@ -2,6 +2,7 @@
 #include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTKeywordsCommand.h"
+#include "KTLanguage.h"
 #include "KTOrderCommand.h"
 #include "KTPreviewCommand.h"
 #include "KTShowCommand.h"
@@ -11,7 +12,9 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -36,13 +39,16 @@ constexpr CommandRow COMMANDS[] = {
 
 QString help()
 {
-    QString text = QStringLiteral("Usage: %1 COMMAND [FILE] [OPTIONS]\n"
-                                  "Makes a catalogue of printed photo products visible.\n\n"
-                                  "Options:\n"
-                                  "  -h, --help     Displays this help.\n"
-                                  "  -v, --version  Displays the versions of the library and of Qt.\n\n"
-                                  "Commands (each has a --help of its own):\n")
-                       .arg(QCoreApplication::applicationName());
+    QString text
+        = QStringLiteral("Usage: %1 COMMAND [FILE] [OPTIONS]\n"
+                         "Makes a catalogue of printed photo products visible.\n\n"
+                         "Options:\n"
+                         "  -h, --help             Displays this help.\n"
+                         "  -v, --version          Displays the versions of the library and of Qt.\n"
+                         "  --language <LANGUAGE>  Display names in German (de) or English (en), in\n"
+                         "                         each command; by default as the environment says.\n\n"
+                         "Commands (each has a --help of its own):\n")
+              .arg(QCoreApplication::applicationName());
     for (const CommandRow &row : COMMANDS)
         text += QStringLiteral("  %1 %2\n")
                     .arg(QString::fromLatin1(row.name).leftJustified(14),
@@ -92,7 +98,9 @@ void printIfFatal(QtMsgType type, const QMessageLogContext &context, const QStri
 /** Drawing needs Qt's fonts, but no display. */
 std::unique_ptr<QCoreApplication> createApplication(int &argc, char *argv[])
 {
-    if (argc < 2 || qstrcmp(argv[1], DRAWING_COMMAND) != 0)
+    // An option may stand before the command.
+    const auto isDrawing = [](const char *argument) { return qstrcmp(argument, DRAWING_COMMAND) == 0; };
+    if (std::none_of(argv, argv + argc, isDrawing))
         return std::make_unique<QCoreApplication>(argc, argv);
     if (!qEnvironmentVariableIsSet(PLATFORM_VARIABLE))
         qputenv(PLATFORM_VARIABLE, "offscreen");
@@ -112,5 +120,6 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(KTFileName::fromBytes(argv[i]));
-    return run(arguments);
+    const std::optional<KTExitCode> failure = KTLanguage::install(&arguments);
+    return failure ? *failure : run(arguments);
 }

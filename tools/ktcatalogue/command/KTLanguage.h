@@ -1,0 +1,21 @@
+#pragma once
+
+#include "KTExitCode.h"
+
+#include <QStringList>
+
+#include <optional>
+
+/** In which language display names are shown: --language, or what the environment says. */
+namespace KTLanguage {
+
+/**
+ * Takes the option out of the arguments, wherever it stands before "--", and installs the language. Without
+ * it the first of LC_ALL, LC_MESSAGES and LANG that is set decides; a language that there is none for, or
+ * none at all ("C"), leaves the names as they stand in the product model, in German.
+ *
+ * An exit code means that the value was wrong, which is reported.
+ */
+std::optional<KTExitCode> install(QStringList *arguments);
+
+} // namespace KTLanguage
