@@ -34,19 +34,35 @@ constexpr ClassificationRow CLASSIFICATIONS[] = {
     {KTAttributeId::ArticleSpotColors,     Rule::SpotColorsChanged,     "the list of spot colours"},
 };
 
-/** An attribute that is not there counts as one without text. */
-qint64 valueOf(const KTArticle &article, KTAttributeId attribute, const KTClassification &classification)
+/** What the article has for a classification. */
+struct Classified
 {
-    for (const KTArticle::Classified &entry : article.classifications()) {
-        if (entry.attribute == attribute)
-            return entry.value;
+    Classified(const KTArticle &article, KTAttributeId attribute, const KTClassification &classification)
+        // An attribute that is not there counts as one without text.
+        : value(classification.decode(QString()))
+    {
+        text = classification.written(value);
+        for (const KTArticle::Classified &entry : article.classifications()) {
+            if (entry.attribute != attribute)
+                continue;
+            value = entry.value;
+            text = entry.text.trimmed();
+        }
     }
-    return classification.decode(QString());
-}
+
+    qint64 value;
+    /** For people, who know the keyword in the catalogue rather than the one that is written for it. */
+    QString text;
+};
 
 QString orNone(const QString &text)
 {
     return text.isEmpty() ? QStringLiteral("none") : KTCheckText::quoted(text);
+}
+
+QString changeText(const QString &what, const QString &before, const QString &after)
+{
+    return QStringLiteral("%1 is %2, was %3").arg(what, orNone(after), orNone(before));
 }
 
 void addAboutArticle(KTDifferenceList *list, Rule rule, const QString &subject, const QString &what,
@@ -64,14 +80,17 @@ void compareClassifications(KTDifferenceList *list)
     for (const ClassificationRow &row : CLASSIFICATIONS) {
         const KTClassification &classification
             = KTClassification::of(KTCatalogueFormat::attribute(row.attribute).classification);
-        const qint64 before = valueOf(list->older(), row.attribute, classification);
-        const qint64 after = valueOf(list->newer(), row.attribute, classification);
-        if (before != after)
-            addAboutArticle(
-                list, row.rule,
-                QStringLiteral("classifications.%1").arg(KTCatalogueFormat::attributeName(row.attribute)),
-                QString::fromLatin1(row.what), classification.written(before), classification.written(after),
-                row.attribute);
+        const Classified before(list->older(), row.attribute, classification);
+        const Classified after(list->newer(), row.attribute, classification);
+        if (before.value == after.value)
+            continue;
+        KTDifference &difference = list->add(
+            row.rule,
+            QStringLiteral("classifications.%1").arg(KTCatalogueFormat::attributeName(row.attribute)),
+            changeText(QString::fromLatin1(row.what), before.text, after.text),
+            classification.written(before.value), classification.written(after.value));
+        difference.olderPart = {KTElementKind::Article, 0, row.attribute};
+        difference.newerPart = {KTElementKind::Article, 0, row.attribute};
     }
 }
 

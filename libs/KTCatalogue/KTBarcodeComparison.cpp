@@ -9,13 +9,36 @@ namespace {
 
 using Rule = KTDifferenceRule;
 
-/** "30.0 x 10.0 mm at 12.0, 258.0 mm of page 0" */
+/** "12.0, 258.0 mm" from the left and from the top */
+QString cornerText(const QRect &rect)
+{
+    return QStringLiteral("%1, %2 mm").arg(KTMillimeterText::text(rect.x()), KTMillimeterText::text(rect.y()));
+}
+
+/** "30.0 x 10.0 mm at 12.0, 258.0 mm on page 0" */
 QString placeText(const KTBarcodeDefinition &barcode)
 {
-    const QRect rect = barcode.rect();
-    return QStringLiteral("%1 at %2, %3 mm of page %4")
-        .arg(KTMillimeterText::text(rect.size()), KTMillimeterText::text(rect.x()),
-             KTMillimeterText::text(rect.y()), QString::number(barcode.pageNr()));
+    return QStringLiteral("%1 at %2 on page %3")
+        .arg(KTMillimeterText::text(barcode.rect().size()), cornerText(barcode.rect()),
+             QString::number(barcode.pageNr()));
+}
+
+/** What of page, place and size is another one. */
+QString moveText(const KTBarcodeDefinition &before, const KTBarcodeDefinition &after)
+{
+    QStringList changes;
+    if (before.pageNr() != after.pageNr())
+        changes.append(QStringLiteral("on page %1, was on page %2").arg(after.pageNr()).arg(before.pageNr()));
+    if (before.rect().topLeft() != after.rect().topLeft())
+        changes.append(
+            QStringLiteral("at %1, was at %2").arg(cornerText(after.rect()), cornerText(before.rect())));
+    if (before.rect().size() != after.rect().size())
+        changes.append(QStringLiteral("%1, was %2").arg(KTMillimeterText::text(after.rect().size()),
+                                                       KTMillimeterText::text(before.rect().size())));
+    const QString barcode = before.pageNr() == after.pageNr()
+        ? QStringLiteral("the barcode on page %1").arg(after.pageNr())
+        : QStringLiteral("the barcode");
+    return QStringLiteral("%1 is %2").arg(barcode, changes.join(QStringLiteral("; ")));
 }
 
 QString rectKey(const KTBarcodeDefinition &barcode)
@@ -89,8 +112,7 @@ void KTBarcodeComparison::addChanges(int older, int newer)
     const KTBarcodeDefinition &before = myOlder.at(older);
     const KTBarcodeDefinition &after = myNewer.at(newer);
     if (before.rect() != after.rect() || before.pageNr() != after.pageNr())
-        add(Rule::BarcodeMoved, older, newer,
-            QStringLiteral("a barcode is %1; was %2").arg(placeText(after), placeText(before)), std::nullopt);
+        add(Rule::BarcodeMoved, older, newer, moveText(before, after), std::nullopt);
     if (before.imageName() != after.imageName()) {
         KTDifference &difference
             = add(Rule::BarcodeImageChanged, older, newer,

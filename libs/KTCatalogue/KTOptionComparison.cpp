@@ -282,8 +282,8 @@ void KTOptionComparison::compareRegrouping()
             = KTVariantsText::mcf(KTArticleVariants(newerId.first.first, newerId.first.second));
         KTDifference &difference
             = myList->add(Rule::CompoundRegrouped, subjectOf(id),
-                          QStringLiteral("MCF says %1, was %2; the production form stays %3")
-                              .arg(quoted(after), quoted(before), quoted(production)),
+                          QStringLiteral("in MCF %1 becomes %2; production gets the same, %3")
+                              .arg(quoted(before), quoted(after), quoted(production)),
                           before, after);
         difference.olderPart = optionPart(place);
         difference.newerPart = optionPart(newerPlace);

@@ -1,8 +1,7 @@
 #include "KTOrderCheck.h"
 
 #include "KTCheckText.h"
-
-#include <QStringView>
+#include "KTVariantsText.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -55,9 +54,25 @@ int nearerOf(const QVector<int> &counts, int wish)
     });
 }
 
+/** Chooses the option that production takes for the same, if there is one under another key. */
+bool chooseSameProduction(KTOrderDraft *draft, const KTOrderRefusal &refusal)
+{
+    const KTArticleVariants wanted
+        = KTVariantsText::production(KTArticleVariants(refusal.key, refusal.value));
+    if (!wanted.isValid())
+        return false;
+    for (const KTConfiguredArticleVariant &option : draft->article().options()) {
+        if (KTVariantsText::production(option.toArticleVariants()) == wanted)
+            return !draft->choose(option.key(), option.value());
+    }
+    return false;
+}
+
 /** Puts something in place of what was refused; what cannot be replaced is left out. */
 void replace(KTOrderDraft *draft, const KTOrderRefusal &refusal)
 {
+    if (chooseSameProduction(draft, refusal))
+        return;
     if (refusal.reason == KTOrderRefusal::Reason::UnknownKey) {
         if (!refusal.nearest.isNull())
             static_cast<void>(draft->choose(refusal.nearest, refusal.value));

@@ -32,20 +32,26 @@ bool isSame(double first, double second)
     return first == second || std::abs(first - second) < ROUNDING_MILLIMETERS || qFuzzyCompare(first, second);
 }
 
+/** A length in millimetres; one that no book has is not written out. */
+QString number(double length, int decimals)
+{
+    constexpr double LONGEST = 1e7;
+    return QString::number(length, std::abs(length) < LONGEST ? 'f' : 'g', decimals);
+}
+
 /** The number of decimals, one at least, in which the lengths differ. */
 int decimalsFor(double first, double second)
 {
     constexpr int MAX_DECIMALS = 5;
     int decimals = 1;
-    while (decimals < MAX_DECIMALS
-           && QString::number(first, 'f', decimals) == QString::number(second, 'f', decimals))
+    while (decimals < MAX_DECIMALS && number(first, decimals) == number(second, decimals))
         ++decimals;
     return decimals;
 }
 
 QString millimeters(double length, int decimals)
 {
-    return QStringLiteral("%1 mm").arg(length, 0, 'f', decimals);
+    return QStringLiteral("%1 mm").arg(number(length, decimals));
 }
 
 /** "at 90 pages 14.0 mm, was 13.2" */
@@ -53,16 +59,14 @@ QString widthText(int pages, double before, double after)
 {
     const int decimals = decimalsFor(before, after);
     return QStringLiteral("at %1 pages %2, was %3")
-        .arg(QString::number(pages), millimeters(after, decimals), QString::number(before, 'f', decimals));
+        .arg(QString::number(pages), millimeters(after, decimals), number(before, decimals));
 }
 
-/** "48 of 65 page counts", "all 65 page counts" or "the only page count" */
+/** "48 of 65 page counts" or "all 65 page counts" */
 QString share(qint64 part, qint64 whole)
 {
-    if (part < whole)
-        return QStringLiteral("%1 of %2 page counts").arg(part).arg(whole);
-    return whole == 1 ? QStringLiteral("the only page count")
-                      : QStringLiteral("all %1 page counts").arg(whole);
+    return part < whole ? QStringLiteral("%1 of %2 page counts").arg(part).arg(whole)
+                        : QStringLiteral("all %1 page counts").arg(whole);
 }
 
 QString validity(const KTPageCountOrganization &pageCounts)
@@ -121,7 +125,9 @@ void KTPageCountComparison::compareCounts()
                            .arg(QString::number(*first), nearestTo(myList->newer(), *first));
         addAboutCounts(Rule::PageCountsRemoved, message);
     }
-    if (const auto first = myNewer.firstNotIn(myOlder)) {
+    // Where one side is not valid, that is said, and not what the other one has in addition.
+    const auto first = myNewer.firstNotIn(myOlder);
+    if (first && myOlderPages.isValid() && myNewerPages.isValid()) {
         const QString counts = added == 1
             ? QStringLiteral("one new page count, %1").arg(*first)
             : QStringLiteral("%1 new page counts, from %2 on").arg(added).arg(*first);
@@ -181,7 +187,7 @@ void KTPageCountComparison::compareSpines()
     const int decimals = decimalsFor(before, after);
     addAboutSpine(Rule::SpineMarginChanged,
                   QStringLiteral("the additional width on each side of the spine is %1, was %2")
-                      .arg(millimeters(after, decimals), QString::number(before, 'f', decimals)),
+                      .arg(millimeters(after, decimals), number(before, decimals)),
                   millimeters(before, decimals), millimeters(after, decimals),
                   KTAttributeId::SpineAdditionalWidth);
 }
@@ -217,6 +223,11 @@ void KTPageCountComparison::compareSpineWidths()
         return;
     const double change = first->after - first->before;
     const auto text = [](const Width &width) { return widthText(width.pages, width.before, width.after); };
+    QString counts = share(count, compared);
+    if (compared < myCommon.size())
+        counts += QStringLiteral(" that were compared");
+    else if (compared < std::max(myOlder.size(), myNewer.size()))
+        counts += QStringLiteral(" that both have");
     QString message;
     if (count == 1)
         message = QStringLiteral("spine %1").arg(text(*first));
@@ -224,10 +235,10 @@ void KTPageCountComparison::compareSpineWidths()
         message = QStringLiteral("spine %1 %2 at %3: %4")
                       .arg(millimeters(std::abs(change), decimalsFor(change, 0.0)),
                            change > 0.0 ? QStringLiteral("wider") : QStringLiteral("narrower"),
-                           share(count, compared), text(*first));
+                           counts, text(*first));
     else
         message = QStringLiteral("spine %1, %2; another one at %3")
-                      .arg(text(*first), text(*last), share(count, compared));
+                      .arg(text(*first), text(*last), counts);
     const int decimals = decimalsFor(last->before, last->after);
     addAboutSpine(Rule::SpineChanged, message, millimeters(last->before, decimals),
                   millimeters(last->after, decimals), KTAttributeId::SpineBaseWidth);

@@ -41,6 +41,12 @@ QString counted(qint64 count, const QString &what)
     return QStringLiteral("%1 %2%3").arg(count).arg(what, count == 1 ? QString() : QStringLiteral("s"));
 }
 
+/** "3 saved orders" */
+QString hitText(qint64 hits)
+{
+    return hits == 0 ? QStringLiteral("no saved order") : counted(hits, QStringLiteral("saved order"));
+}
+
 QString capitalized(const QString &word)
 {
     return word.left(1).toUpper() + word.mid(1);
@@ -62,9 +68,7 @@ QString sentence(const KTOrderCounts &orders)
     if (orders.refusedBefore > 0)
         text += QStringLiteral("; %1 could not before either").arg(orders.refusedBefore);
     if (orders.malformed > 0)
-        text += QStringLiteral("; %1 no orders")
-                    .arg(orders.malformed == 1 ? QStringLiteral("1 line is")
-                                               : QStringLiteral("%1 lines are").arg(orders.malformed));
+        text += QStringLiteral("; lines that are no orders: %1").arg(orders.malformed);
     return text;
 }
 
@@ -103,7 +107,7 @@ protected:
     {
         QString text = KTTerminalText::escaped(sentence(*orders()));
         if (orders()->listed < orders()->broken && orders()->listed > 0)
-            text += QStringLiteral("; the first %1:").arg(orders()->listed);
+            text += QStringLiteral("; the first of them (%1):").arg(orders()->listed);
         else
             text += orders()->listed > 0 ? QStringLiteral(":") : QStringLiteral(".");
         return text + QLatin1Char('\n');
@@ -121,7 +125,7 @@ protected:
                     .arg(KTTerminalText::escaped(difference.message),
                          KTDifferenceRules::name(difference.rule));
         if (hits)
-            text += QStringLiteral("        hits %1\n").arg(counted(*hits, QStringLiteral("saved order")));
+            text += QStringLiteral("        hits %1\n").arg(hitText(*hits));
         QStringList places;
         if (difference.olderRange.begin.line > 0)
             places.append(place(options().olderName, difference.olderRange));
@@ -265,10 +269,10 @@ protected:
             {QStringLiteral("new"), KTFileName::escaped(options().newerName)},
         });
         names.chop(1);
-        return QStringLiteral("{\"format\":1,") + names.mid(1) + QStringLiteral(",\"differences\":[\n");
+        return QStringLiteral("{\"format\":1,") + names.mid(1) + QStringLiteral(",\"differences\":[");
     }
 
-    QString separator() const override { return QStringLiteral(",\n"); }
+    QString separator() const override { return QStringLiteral(","); }
 
     QString tail() const override
     {
@@ -296,7 +300,7 @@ protected:
             {QStringLiteral("broken"),        orders()->broken                       },
         });
         counts.chop(1);
-        return QStringLiteral("\n],\n\"savedOrders\":") + counts + QStringLiteral(",\"list\":[\n");
+        return QStringLiteral("\n],\n\"savedOrders\":") + counts + QStringLiteral(",\"list\":[");
     }
 
     QString ordersTail() const override { return QStringLiteral("\n]},"); }
@@ -317,12 +321,12 @@ protected:
         };
         if (hits)
             object.insert(QStringLiteral("savedOrders"), *hits);
-        return json(object);
+        return QLatin1Char('\n') + json(object);
     }
 
     QString broken(const QString &, const KTSavedOrder &order, const KTOrderVerdict &verdict) const override
     {
-        return json(KTOrderText::toJSON(order, verdict));
+        return QLatin1Char('\n') + json(KTOrderText::toJSON(order, verdict));
     }
 
 private:
@@ -360,10 +364,10 @@ protected:
             + json({
                 {QStringLiteral("driver"), driver}
         })
-            + QStringLiteral(",\n\"columnKind\":\"unicodeCodePoints\",\"results\":[\n");
+            + QStringLiteral(",\n\"columnKind\":\"unicodeCodePoints\",\"results\":[");
     }
 
-    QString separator() const override { return QStringLiteral(",\n"); }
+    QString separator() const override { return QStringLiteral(","); }
 
     QString tail() const override
     {
@@ -380,7 +384,7 @@ protected:
         QString text
             = QStringLiteral("article %1: %2").arg(QString::number(difference.articleId), difference.message);
         if (hits)
-            text += QStringLiteral("; hits %1").arg(counted(*hits, QStringLiteral("saved order")));
+            text += QStringLiteral("; hits %1").arg(hitText(*hits));
         QJsonObject newer = location(options().newerName, difference.newerRange);
         newer.insert(
             QStringLiteral("logicalLocations"),
@@ -399,7 +403,7 @@ protected:
             older.insert(QStringLiteral("message"), message(QStringLiteral("as it was")));
             result.insert(QStringLiteral("relatedLocations"), QJsonArray {older});
         }
-        return json(result);
+        return QLatin1Char('\n') + json(result);
     }
 
     /** A document about the catalogue has no place for orders. */
