@@ -142,6 +142,11 @@ void compareProduct(KTDifferenceList *list)
                         older.name(), newer.name(), KTAttributeId::ArticleName);
 }
 
+QString nameOrNumber(const KTArticle &article)
+{
+    return article.name().isEmpty() ? article.articleId().toString() : article.name();
+}
+
 } // namespace
 
 QVector<KTDifference> KTArticleComparison::differences(const KTArticle &older, const KTArticle &newer)
@@ -152,7 +157,8 @@ QVector<KTDifference> KTArticleComparison::differences(const KTArticle &older, c
     KTPageCountComparison(&list).compare();
     KTPageComparison(&list).compare();
     KTBarcodeComparison(&list).compare();
-    KTOptionComparison(&list).compare();
+    if (!KTOptionComparison::areSame(older.options(), newer.options()))
+        KTOptionComparison(&list).compare();
     QVector<KTDifference> differences = list.differences();
     std::stable_sort(
         differences.begin(), differences.end(),
@@ -164,12 +170,12 @@ KTDifference KTArticleComparison::removal(const KTArticle &older)
 {
     KTDifferenceList list(older, older);
     return list.add(Rule::ArticleRemoved, QStringLiteral("article"), QStringLiteral("the article is gone"),
-                    older.name(), QString());
+                    nameOrNumber(older), QString());
 }
 
 KTDifference KTArticleComparison::addition(const KTArticle &newer)
 {
     KTDifferenceList list(newer, newer);
     return list.add(Rule::ArticleAdded, QStringLiteral("article"), QStringLiteral("the article is new"),
-                    QString(), newer.name());
+                    QString(), nameOrNumber(newer));
 }

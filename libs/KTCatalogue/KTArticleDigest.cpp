@@ -2,50 +2,42 @@
 
 #include <KTXMLFragment.h>
 
-#include <QCryptographicHash>
-
-#include <algorithm>
-#include <cstring>
-#include <numeric>
+#include <string_view>
 
 namespace {
 
-void append(QByteArray *text, int number)
+/** An odd number whose bits look random, 2^64 divided by the golden ratio. */
+constexpr quint64 FACTOR = 0x9e3779b97f4a7c15;
+
+quint64 mixed(quint64 first, quint64 second)
 {
-    text->append(reinterpret_cast<const char *>(&number), sizeof number);
+    constexpr int HALF = 32;
+    const quint64 product = (first ^ (first >> HALF)) * FACTOR + second;
+    return (product ^ (product >> HALF)) * FACTOR;
 }
 
-/** With its length, so that no two lists of texts give the same bytes. */
-void append(QByteArray *text, QStringView part)
+quint64 hashOf(QStringView text)
 {
-    append(text, static_cast<int>(part.size()));
-    text->append(reinterpret_cast<const char *>(part.utf16()),
-                 static_cast<int>(part.size()) * static_cast<int>(sizeof(QChar)));
+    return std::hash<std::u16string_view>()({text.utf16(), static_cast<std::size_t>(text.size())});
 }
 
 } // namespace
 
-KTArticleDigest::Digest KTArticleDigest::of(const KTXMLFragment &fragment)
+quint64 KTArticleDigest::of(const KTXMLFragment &fragment)
 {
-    myText.resize(0);
+    quint64 digest = 0;
     for (const KTXMLFragment::Element &element : fragment.elements) {
-        // The parents say how the elements are nested.
-        append(&myText, element.parent);
-        append(&myText, fragment.view(element.name));
-        append(&myText, element.attributeCount);
-        myOrder.resize(element.attributeCount);
-        std::iota(myOrder.begin(), myOrder.end(), element.firstAttribute);
-        std::sort(myOrder.begin(), myOrder.end(), [&fragment](int first, int second) {
-            return fragment.view(fragment.attributes.at(first).name)
-                < fragment.view(fragment.attributes.at(second).name);
-        });
-        for (const int index : qAsConst(myOrder)) {
-            append(&myText, fragment.view(fragment.attributes.at(index).name));
-            append(&myText, fragment.view(fragment.attributes.at(index).value));
+        // A sum, so that the order of the attributes does not matter.
+        quint64 attributes = 0;
+        for (int i = 0; i < element.attributeCount; ++i) {
+            const KTXMLFragment::Attribute &attribute = fragment.attributes.at(element.firstAttribute + i);
+            attributes
+                += mixed(hashOf(fragment.view(attribute.name)), hashOf(fragment.view(attribute.value)));
         }
+        // The parents say how the elements are nested.
+        digest = mixed(digest, static_cast<quint64>(element.parent));
+        digest = mixed(digest, hashOf(fragment.view(element.name)));
+        digest = mixed(digest, attributes);
     }
-    const QByteArray hash = QCryptographicHash::hash(myText, QCryptographicHash::Md5);
-    Digest digest {};
-    std::memcpy(digest.data(), hash.constData(), digest.size());
     return digest;
 }

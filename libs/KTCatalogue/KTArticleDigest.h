@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QVector>
-
-#include <array>
+#include <QtGlobal>
 
 struct KTXMLFragment;
 
@@ -11,16 +8,9 @@ struct KTXMLFragment;
  * Tells whether two articles are written alike, but for the order of attributes and what is not read anyway:
  * then the library makes the same of them. Not part of the library's interface.
  */
-class KTArticleDigest
-{
-public:
-    using Digest = std::array<char, 16>;
+namespace KTArticleDigest {
 
-    /** Of 128 bits, which different articles share by chance only. */
-    Digest of(const KTXMLFragment &fragment);
+/** The same in each run; different articles share it by chance only. */
+quint64 of(const KTXMLFragment &fragment);
 
-private:
-    /** Kept for the next article. */
-    QByteArray myText;
-    QVector<int> myOrder;
-};
+} // namespace KTArticleDigest

@@ -4,48 +4,14 @@
 #include <KTConfiguredArticleVariant.h>
 #include <KTXMLParser.h>
 
-KTArticlePlaces::KTArticlePlaces(const KTCatalogueArticle &article)
-    : myArticle(article)
-    , myPages(children(0, KTElementKind::Page))
-{
-    const KTXMLFragment &fragment = article.fragment();
-    const QVector<int> barcodes = children(0, KTElementKind::Barcodes);
-    if (!barcodes.isEmpty()) {
-        const KTDistanceUnit unit = KTXMLParser::readUnit(fragment.element(barcodes.constFirst()));
-        myBarcodes
-            = children(barcodes.constFirst(), KTElementKind::Barcode, [&](const KTXMLElement &element) {
-                  return KTBarcodeDefinition::createFromProductsXML(element, unit).isValid();
-              });
-    }
-    const QVector<int> forms = children(0, KTElementKind::Forms);
-    if (!forms.isEmpty()) {
-        myOptions = children(forms.constFirst(), KTElementKind::Form, [](const KTXMLElement &element) {
-            return KTConfiguredArticleVariant(element).isValid();
-        });
-    }
-    const QVector<int> compositions = children(0, KTElementKind::Composition);
-    if (!compositions.isEmpty())
-        mySpines = children(compositions.constFirst(), KTElementKind::Spine);
-}
-
-KTFileRange KTArticlePlaces::range(const KTArticlePart &part) const
+KTFileRange KTArticlePlaces::range(const KTArticlePart &part)
 {
     int element = 0;
-    switch (part.element) {
-    case KTElementKind::Page:
-        element = myPages.value(part.index);
-        break;
-    case KTElementKind::Barcode:
-        element = myBarcodes.value(part.index);
-        break;
-    case KTElementKind::Form:
-        element = myOptions.value(part.index);
-        break;
-    case KTElementKind::Spine:
-        element = mySpines.value(part.index);
-        break;
-    default:
-        break;
+    if (part.element != KTElementKind::Article) {
+        const int kind = static_cast<int>(part.element);
+        if (!myParts.contains(kind))
+            myParts.insert(kind, parts(part.element));
+        element = myParts.value(kind).value(part.index);
     }
     const int attribute = part.attribute ? attributeIndex(element, *part.attribute) : -1;
     return attribute < 0 ? myArticle.tagRange(element) : myArticle.attributeRange(element, attribute);
@@ -65,9 +31,32 @@ QVector<int> KTArticlePlaces::children(int parent, KTElementKind kind, Predicate
     return children;
 }
 
-QVector<int> KTArticlePlaces::children(int parent, KTElementKind kind) const
+int KTArticlePlaces::firstChild(int parent, KTElementKind kind) const
 {
-    return children(parent, kind, [](const KTXMLElement &) { return true; });
+    const QVector<int> all = children(parent, kind, [](const KTXMLElement &) { return true; });
+    return all.isEmpty() ? -1 : all.constFirst();
+}
+
+QVector<int> KTArticlePlaces::parts(KTElementKind kind) const
+{
+    // Each of them stands in the first element of its parent's kind.
+    const KTElementRow &row = KTCatalogueFormat::elements().at(static_cast<std::size_t>(kind) - 1);
+    const int parent = row.parent == KTElementKind::Article ? 0 : firstChild(0, row.parent);
+    if (parent < 0)
+        return {};
+    KTDistanceUnit unit;
+    if (kind == KTElementKind::Barcode)
+        unit = KTXMLParser::readUnit(myArticle.fragment().element(parent));
+    return children(parent, kind, [&](const KTXMLElement &element) {
+        switch (kind) {
+        case KTElementKind::Form:
+            return KTConfiguredArticleVariant(element).isValid();
+        case KTElementKind::Barcode:
+            return KTBarcodeDefinition::createFromProductsXML(element, unit).isValid();
+        default:
+            return true;
+        }
+    });
 }
 
 int KTArticlePlaces::attributeIndex(int element, KTAttributeId attribute) const

@@ -3,6 +3,7 @@
 #include "KTCatalogueArticle.h"
 #include "KTDifference.h"
 
+#include <QHash>
 #include <QVector>
 
 /**
@@ -13,21 +14,25 @@ class KTArticlePlaces
 {
 public:
     /** The article must outlive the places. */
-    explicit KTArticlePlaces(const KTCatalogueArticle &article);
+    explicit KTArticlePlaces(const KTCatalogueArticle &article)
+        : myArticle(article)
+    {
+    }
 
     /** The attribute where it is written, else the start tag; the article's own where the part is not there.
      */
-    [[nodiscard]] KTFileRange range(const KTArticlePart &part) const;
+    [[nodiscard]] KTFileRange range(const KTArticlePart &part);
 
 private:
     template <typename Predicate>
     [[nodiscard]] QVector<int> children(int parent, KTElementKind kind, Predicate isTaken) const;
-    [[nodiscard]] QVector<int> children(int parent, KTElementKind kind) const;
+    /** The first child of the kind; -1 where there is none. */
+    [[nodiscard]] int firstChild(int parent, KTElementKind kind) const;
+    /** The elements that the library makes parts of the kind of. */
+    [[nodiscard]] QVector<int> parts(KTElementKind kind) const;
     [[nodiscard]] int attributeIndex(int element, KTAttributeId attribute) const;
 
     const KTCatalogueArticle &myArticle;
-    QVector<int> myPages;
-    QVector<int> myBarcodes;
-    QVector<int> myOptions;
-    QVector<int> mySpines;
+    /** What was looked for already. */
+    QHash<int, QVector<int>> myParts;
 };

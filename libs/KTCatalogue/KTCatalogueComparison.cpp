@@ -51,12 +51,12 @@ bool KTCatalogueComparison::compare(int olderPlace, int newerPlace, QVector<KTDi
     if (differences->isEmpty())
         return true;
     if (olderPlace >= 0) {
-        const KTArticlePlaces places(myOlderArticle);
+        KTArticlePlaces places(myOlderArticle);
         for (KTDifference &difference : *differences)
             difference.olderRange = places.range(difference.olderPart);
     }
     if (newerPlace >= 0) {
-        const KTArticlePlaces places(myNewerArticle);
+        KTArticlePlaces places(myNewerArticle);
         for (KTDifference &difference : *differences)
             difference.newerRange = places.range(difference.newerPart);
     }

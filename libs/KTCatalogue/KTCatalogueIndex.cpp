@@ -58,7 +58,6 @@ void KTCatalogueIndex::build(std::optional<int> articleId, const Listener &liste
             [articleId](const KTXMLElement &article) { return KTArticleId::findId(article) == *articleId; });
     }
     KTCatalogueArticle article;
-    KTArticleDigest digest;
     int count = 0;
     while (myReader->nextArticle(&article) == KTCatalogueReader::Item::Article) {
         const int number = KTArticleId::findId(article.root()).id();
@@ -67,7 +66,7 @@ void KTCatalogueIndex::build(std::optional<int> articleId, const Listener &liste
             const auto length
                 = static_cast<quint32>(std::min<qint64>(range.length(), std::numeric_limits<quint32>::max()));
             myEntries.push_back({number, range.begin.line, range.begin.column, length, range.begin.offset,
-                                 digest.of(article.fragment())});
+                                 KTArticleDigest::of(article.fragment())});
         }
         if (listener)
             listener(++count);
@@ -107,7 +106,7 @@ bool KTCatalogueIndex::read(int place, KTCatalogueArticle *article)
         Section section(myDevice, entry.length);
         KTCatalogueReader reader(&section, *myReader, position);
         if (reader.next(article) == KTCatalogueReader::Item::Article
-            && KTArticleDigest().of(article->fragment()) == entry.digest) {
+            && KTArticleDigest::of(article->fragment()) == entry.digest) {
             return true;
         }
     }

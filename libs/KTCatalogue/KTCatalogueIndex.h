@@ -4,7 +4,6 @@
 #include "KTCatalogueReader.h"
 #include "ktcatalogue_export.h"
 
-#include <array>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -13,7 +12,7 @@
 class QIODevice;
 
 /**
- * Where each article of an open catalogue stands and what is written there, in 40 bytes an article, so that
+ * Where each article of an open catalogue stands and what is written there, in 32 bytes an article, so that
  * two catalogues can be compared, or single articles read, without holding either.
  *
  * Articles are known by their numbers: those without a positive one are left out, and of several with one
@@ -61,7 +60,7 @@ private:
         /** In bytes; an article that is longer is read with what follows it. */
         quint32 length;
         qint64 offset;
-        std::array<char, 16> digest;
+        quint64 digest;
     };
 
     void build(std::optional<int> articleId, const Listener &listener);

@@ -98,6 +98,22 @@ KTOptionComparison::KTOptionComparison(KTDifferenceList *list)
 {
 }
 
+bool KTOptionComparison::areSame(const KTConfiguredArticleVariantList &older,
+                                 const KTConfiguredArticleVariantList &newer)
+{
+    using Option = KTConfiguredArticleVariant;
+    // Equality of options looks at key and value alone.
+    return std::equal(older.begin(), older.end(), newer.begin(), newer.end(),
+                      [](const Option &first, const Option &second) {
+                          return first == second && first.keyName() == second.keyName()
+                              && first.visibleName() == second.visibleName()
+                              && first.editorName() == second.editorName()
+                              && first.preview() == second.preview() && first.color() == second.color()
+                              && first.isDefault() == second.isDefault()
+                              && first.isNotAccountable() == second.isNotAccountable();
+                      });
+}
+
 void KTOptionComparison::compare()
 {
     compareKeys();

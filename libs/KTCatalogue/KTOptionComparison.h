@@ -11,6 +11,10 @@ class KTOptionComparison
 public:
     explicit KTOptionComparison(KTDifferenceList *list);
 
+    /** True when there is nothing to compare, which is soon seen and mostly so. */
+    static bool areSame(const KTConfiguredArticleVariantList &older,
+                        const KTConfiguredArticleVariantList &newer);
+
     void compare();
 
 private:

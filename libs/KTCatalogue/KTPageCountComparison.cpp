@@ -69,7 +69,8 @@ QString share(qint64 part, qint64 whole)
                         : QStringLiteral("all %1 page counts").arg(whole);
 }
 
-QString validity(const KTPageCountOrganization &pageCounts)
+/** The numbers as they are, which need not be valid. */
+QString rangeText(const KTPageCountOrganization &pageCounts)
 {
     return QStringLiteral("%1 to %2, step %3")
         .arg(pageCounts.minPages())
@@ -134,27 +135,32 @@ void KTPageCountComparison::compareCounts()
         addAboutCounts(Rule::PageCountsAdded,
                        removed > 0 ? counts : QStringLiteral("%1: %2").arg(change, counts));
     }
-    const bool isRangeSame = myOlderPages.maxPages() == myNewerPages.maxPages()
-        && myOlderPages.isConsistent() == myNewerPages.isConsistent();
-    if (removed == 0 && added == 0 && !isRangeSame && !myOlder.isEmpty())
-        addAboutCounts(Rule::PageRangeChanged,
-                       QStringLiteral("the highest page count is %1, was %2; the valid ones stay %3")
-                           .arg(QString::number(myNewerPages.maxPages()),
-                                QString::number(myOlderPages.maxPages()), myNewer.toText()));
+    const bool isRangeSame = myOlderPages.maxPages() == myNewerPages.maxPages();
+    if (removed == 0 && added == 0 && !isRangeSame && !myOlder.isEmpty()) {
+        KTDifference &difference
+            = addAboutCounts(Rule::PageRangeChanged,
+                             QStringLiteral("the highest page count is %1, was %2; the valid ones stay %3")
+                                 .arg(QString::number(myNewerPages.maxPages()),
+                                      QString::number(myOlderPages.maxPages()), myNewer.toText()));
+        difference.before = QString::number(myOlderPages.maxPages());
+        difference.after = QString::number(myNewerPages.maxPages());
+    }
 }
 
 void KTPageCountComparison::compareValidity()
 {
     if (myOlderPages.isValid() == myNewerPages.isValid())
         return;
-    if (myNewerPages.isValid())
-        addAboutCounts(Rule::PageCountsRepaired,
-                       QStringLiteral("the page counts (%1) are valid, were not (%2)")
-                           .arg(validity(myNewerPages), validity(myOlderPages)));
-    else
-        addAboutCounts(Rule::PageCountsInvalid,
-                       QStringLiteral("the page counts (%1) are no longer valid, were %2")
-                           .arg(validity(myNewerPages), myOlder.toText()));
+    const QString before = rangeText(myOlderPages);
+    const QString after = rangeText(myNewerPages);
+    KTDifference &difference = myNewerPages.isValid()
+        ? addAboutCounts(Rule::PageCountsRepaired,
+                         QStringLiteral("the page counts (%1) are valid, were not (%2)").arg(after, before))
+        : addAboutCounts(
+            Rule::PageCountsInvalid,
+            QStringLiteral("the page counts (%1) are no longer valid, were %2").arg(after, myOlder.toText()));
+    difference.before = before;
+    difference.after = after;
 }
 
 void KTPageCountComparison::compareSpines()
@@ -234,11 +240,10 @@ void KTPageCountComparison::compareSpineWidths()
     else if (isConstant)
         message = QStringLiteral("spine %1 %2 at %3: %4")
                       .arg(millimeters(std::abs(change), decimalsFor(change, 0.0)),
-                           change > 0.0 ? QStringLiteral("wider") : QStringLiteral("narrower"),
-                           counts, text(*first));
+                           change > 0.0 ? QStringLiteral("wider") : QStringLiteral("narrower"), counts,
+                           text(*first));
     else
-        message = QStringLiteral("spine %1, %2; another one at %3")
-                      .arg(text(*first), text(*last), counts);
+        message = QStringLiteral("spine %1, %2; another one at %3").arg(text(*first), text(*last), counts);
     const int decimals = decimalsFor(last->before, last->after);
     addAboutSpine(Rule::SpineChanged, message, millimeters(last->before, decimals),
                   millimeters(last->after, decimals), KTAttributeId::SpineBaseWidth);
