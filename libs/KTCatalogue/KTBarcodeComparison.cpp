@@ -12,7 +12,8 @@ using Rule = KTDifferenceRule;
 /** "12.0, 258.0 mm" from the left and from the top */
 QString cornerText(const QRect &rect)
 {
-    return QStringLiteral("%1, %2 mm").arg(KTMillimeterText::text(rect.x()), KTMillimeterText::text(rect.y()));
+    return QStringLiteral("%1, %2 mm")
+        .arg(KTMillimeterText::text(rect.x()), KTMillimeterText::text(rect.y()));
 }
 
 /** "30.0 x 10.0 mm at 12.0, 258.0 mm on page 0" */
@@ -33,8 +34,9 @@ QString moveText(const KTBarcodeDefinition &before, const KTBarcodeDefinition &a
         changes.append(
             QStringLiteral("at %1, was at %2").arg(cornerText(after.rect()), cornerText(before.rect())));
     if (before.rect().size() != after.rect().size())
-        changes.append(QStringLiteral("%1, was %2").arg(KTMillimeterText::text(after.rect().size()),
-                                                       KTMillimeterText::text(before.rect().size())));
+        changes.append(QStringLiteral("%1, was %2")
+                           .arg(KTMillimeterText::text(after.rect().size()),
+                                KTMillimeterText::text(before.rect().size())));
     const QString barcode = before.pageNr() == after.pageNr()
         ? QStringLiteral("the barcode on page %1").arg(after.pageNr())
         : QStringLiteral("the barcode");

@@ -1,5 +1,7 @@
 #include "KTDifferenceList.h"
 
+#include "KTCheckText.h"
+
 KTDifference &KTDifferenceList::add(KTDifferenceRule rule, const QString &subject, const QString &message)
 {
     return add(rule, subject, message, QString(), QString());
@@ -23,7 +25,10 @@ KTDifference &KTDifferenceList::add(KTDifferenceRule rule, const QString &subjec
 QString KTDifferenceList::listed(const QStringList &words)
 {
     constexpr int MAX_WORDS = 8;
-    const QString text = QStringList(words.mid(0, MAX_WORDS)).join(QStringLiteral(", "));
+    QStringList first = words.mid(0, MAX_WORDS);
+    for (QString &word : first)
+        word = KTCheckText::shortened(word);
+    const QString text = first.join(QStringLiteral(", "));
     return words.size() <= MAX_WORDS
         ? text
         : QStringLiteral("%1 and %2 more").arg(text, QString::number(words.size() - MAX_WORDS));

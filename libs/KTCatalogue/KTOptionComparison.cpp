@@ -160,16 +160,19 @@ void KTOptionComparison::compareKeys()
 void KTOptionComparison::compareValues(const QString &key)
 {
     const QString keyText = named(key, myNewer.keyName(key));
+    QString offered;
     for (const int place : myOlder.byKey.value(key)) {
         const Id &id = myOlder.ids.at(place);
         if (id.second > 0 || myNewer.places.contains(id))
             continue;
+        if (offered.isEmpty())
+            offered = KTDifferenceList::listed(myNewer.values(key));
         const KTConfiguredArticleVariant &option = myOlder.list.at(place);
-        KTDifference &difference = myList->add(Rule::OptionRemoved, subjectOf(id),
-                                               QStringLiteral("%1 is gone from %2; offered: %3")
-                                                   .arg(named(option.value(), option.visibleName()), keyText,
-                                                        KTDifferenceList::listed(myNewer.values(key))),
-                                               option.value(), QString());
+        KTDifference &difference
+            = myList->add(Rule::OptionRemoved, subjectOf(id),
+                          QStringLiteral("%1 is gone from %2; offered: %3")
+                              .arg(named(option.value(), option.visibleName()), keyText, offered),
+                          option.value(), QString());
         addAbout(&difference, place, -1, id);
     }
     for (const int place : myNewer.byKey.value(key)) {

@@ -44,7 +44,7 @@ KTSavedOrders::Item KTSavedOrders::next(KTSavedOrder *order)
     }
 }
 
-KTSavedOrders::Item KTSavedOrders::parse(QByteArray line, KTSavedOrder *order)
+KTSavedOrders::Item KTSavedOrders::parse(const QByteArray &line, KTSavedOrder *order)
 {
     const QList<QByteArray> fields = line.split(FIELD_SEPARATOR);
     if (fields.size() > MAX_FIELDS) {

@@ -52,7 +52,7 @@ public:
     QString error() const { return myError; }
 
 private:
-    Item parse(QByteArray line, KTSavedOrder *order);
+    Item parse(const QByteArray &line, KTSavedOrder *order);
     void skipRest(char last);
 
     QIODevice *myDevice;

@@ -285,9 +285,8 @@ protected:
             if (counts().of(row.rule) > 0)
                 rules.insert(QString::fromLatin1(row.name), counts().of(row.rule));
         }
-        const QString end = QStringLiteral("%1\n\"total\":%2,\n\"rules\":%3}\n")
-                                .arg(orders() ? QString() : QStringLiteral("\n],"), json(kinds), json(rules));
-        return end;
+        return QStringLiteral("%1\n\"total\":%2,\n\"rules\":%3}\n")
+            .arg(orders() ? QString() : QStringLiteral("\n],"), json(kinds), json(rules));
     }
 
     QString ordersHead() const override
