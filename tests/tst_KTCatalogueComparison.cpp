@@ -204,6 +204,33 @@ private Q_SLOTS:
         QCOMPARE(single.index->article(4).value_or(KTArticle()).name(), nameOfFour);
     }
 
+    /** However little it is that differs; the order of attributes does not. */
+    void tellsTextsApart()
+    {
+        QStringList articles {u"<a><b/></a>"_s,
+                              u"<a/><b/>"_s,
+                              u"<a x='y'><b/></a>"_s,
+                              u"<a><b x='y'/></a>"_s,
+                              u"<a xy=''><b/></a>"_s,
+                              u"<a y='x'><b/></a>"_s,
+                              u"<a x='y' z='y'><b/></a>"_s,
+                              u"<b><a/></b>"_s,
+                              u"<a x=''><b/></a>"_s};
+        for (int i = 0; i < 300; ++i)
+            articles.append(u"<a x='%1' y='%2'/>"_s.arg(i % 30).arg(i / 30));
+        QVector<std::shared_ptr<File>> files;
+        for (const QString &text : articles)
+            files.append(
+                std::make_shared<File>(u"<catalogue><article id='1'>%1</article></catalogue>"_s.arg(text)));
+        for (int i = 0; i < files.size(); ++i) {
+            for (int j = 0; j < files.size(); ++j)
+                QCOMPARE(files.at(i)->index->isWrittenAlike(0, *files.at(j)->index, 0), i == j);
+        }
+        const File reversed(
+            u"<catalogue> <article id='1'><!-- --><a y='9' x='29'></a></article></catalogue>"_s);
+        QVERIFY(reversed.index->isWrittenAlike(0, *files.constLast()->index, 0));
+    }
+
     void noticesChanges()
     {
         const QString content = u"<catalogue><article id='4' name='a'/></catalogue>"_s;
