@@ -5,6 +5,7 @@
 #include "KTConsole.h"
 #include "KTDifferenceWriter.h"
 #include "KTFileName.h"
+#include "KTLogSilence.h"
 
 #include <KTCatalogueComparison.h>
 #include <KTNearestWord.h>
@@ -165,9 +166,6 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     options->maximumOrders = *maximum;
     return std::nullopt;
 }
-
-/** What the library logs about the texts that it reads is the business of check. */
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 /** Two catalogues, both readable, and what is asked about them. */
 class Comparison
@@ -348,8 +346,6 @@ KTExitCode KTDiffCommand::run(const QStringList &arguments)
     if (std::count_if(inputs.begin(), inputs.end(), &KTFileName::isStandardInput) > 1)
         return KTConsole::failUsage(QStringLiteral("standard input can be read only once"));
 
-    const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
-    const KTExitCode code = compareFiles(names.constFirst(), names.constLast(), options);
-    qInstallMessageHandler(handler);
-    return code;
+    const KTLogSilence silence;
+    return compareFiles(names.constFirst(), names.constLast(), options);
 }

@@ -4,6 +4,7 @@
 #include "KTComparedCatalogue.h"
 #include "KTConsole.h"
 #include "KTFileName.h"
+#include "KTLogSilence.h"
 #include "KTOrderText.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
@@ -11,13 +12,14 @@
 #include <KTOrderCheck.h>
 
 #include <QFile>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
 #include <array>
 
 namespace {
+
+using KTTerminalText::compactJson;
 
 const QString TEXT_FORMAT = QStringLiteral("text");
 const QString JSON_FORMAT = QStringLiteral("json");
@@ -49,12 +51,6 @@ struct Counts
         }
     }
 };
-
-QString json(const QJsonObject &object)
-{
-    return KTTerminalText::escapedJson(
-        QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
-}
 
 /** Puts together what there is to say, which waits until it is certain that there is an answer. */
 class Output
@@ -101,7 +97,7 @@ public:
                 text += QStringLiteral("  %1 %2\n").arg(count, 8).arg(name);
         }
         if (myIsJson) {
-            const QString total = json({
+            const QString total = compactJson({
                 {QStringLiteral("orders"),    counts.orders   },
                 {QStringLiteral("refused"),   counts.refused  },
                 {QStringLiteral("malformed"), counts.malformed},
@@ -122,7 +118,7 @@ public:
 private:
     void writeEntry(const QJsonObject &object)
     {
-        mySpool.write((myIsEmpty ? QStringLiteral("\n") : QStringLiteral(",\n")) + json(object));
+        mySpool.write((myIsEmpty ? QStringLiteral("\n") : QStringLiteral(",\n")) + compactJson(object));
         myIsEmpty = false;
     }
 
@@ -171,9 +167,6 @@ KTExitCode checkOrders(const QString &catalogueName, const QString &ordersName, 
     return code == KTExitSuccess && counts.refused + counts.malformed > 0 ? KTExitFindings : code;
 }
 
-/** What the library logs about the texts that it reads is the business of check. */
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
-
 } // namespace
 
 KTExitCode KTOrdersCommand::run(const QStringList &arguments)
@@ -201,8 +194,6 @@ KTExitCode KTOrdersCommand::run(const QStringList &arguments)
     if (std::count_if(names.begin(), names.end(), &KTFileName::isStandardInput) > 1)
         return KTConsole::failUsage(QStringLiteral("standard input can be read only once"));
 
-    const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
-    const KTExitCode code = checkOrders(names.constFirst(), names.constLast(), *format);
-    qInstallMessageHandler(handler);
-    return code;
+    const KTLogSilence silence;
+    return checkOrders(names.constFirst(), names.constLast(), *format);
 }

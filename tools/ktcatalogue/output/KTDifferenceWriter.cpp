@@ -8,13 +8,14 @@
 #include <QCoreApplication>
 #include <QIODevice>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <numeric>
 #include <utility>
 
 namespace {
+
+using KTTerminalText::compactJson;
 
 using Kind = KTDifferenceKind;
 using Rule = KTDifferenceRule;
@@ -50,13 +51,6 @@ QString hitText(qint64 hits)
 QString capitalized(const QString &word)
 {
     return word.left(1).toUpper() + word.mid(1);
-}
-
-/** On one line, everything visible that a terminal would obey. */
-QString json(const QJsonObject &object)
-{
-    return KTTerminalText::escapedJson(
-        QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
 /** What became of the saved orders, as a sentence. */
@@ -264,7 +258,7 @@ public:
 protected:
     QString head() const override
     {
-        QString names = json({
+        QString names = compactJson({
             {QStringLiteral("old"), KTFileName::escaped(options().olderName)},
             {QStringLiteral("new"), KTFileName::escaped(options().newerName)},
         });
@@ -286,12 +280,12 @@ protected:
                 rules.insert(QString::fromLatin1(row.name), counts().of(row.rule));
         }
         return QStringLiteral("%1\n\"total\":%2,\n\"rules\":%3}\n")
-            .arg(orders() ? QString() : QStringLiteral("\n],"), json(kinds), json(rules));
+            .arg(orders() ? QString() : QStringLiteral("\n],"), compactJson(kinds), compactJson(rules));
     }
 
     QString ordersHead() const override
     {
-        QString counts = json({
+        QString counts = compactJson({
             {QStringLiteral("file"),          KTFileName::escaped(orders()->fileName)},
             {QStringLiteral("orders"),        orders()->orders                       },
             {QStringLiteral("malformed"),     orders()->malformed                    },
@@ -320,12 +314,12 @@ protected:
         };
         if (hits)
             object.insert(QStringLiteral("savedOrders"), *hits);
-        return QLatin1Char('\n') + json(object);
+        return QLatin1Char('\n') + compactJson(object);
     }
 
     QString broken(const QString &, const KTSavedOrder &order, const KTOrderVerdict &verdict) const override
     {
-        return QLatin1Char('\n') + json(KTOrderText::toJSON(order, verdict));
+        return QLatin1Char('\n') + compactJson(KTOrderText::toJSON(order, verdict));
     }
 
 private:
@@ -360,7 +354,7 @@ protected:
         };
         return QStringLiteral("{\"$schema\":\"https://json.schemastore.org/sarif-2.1.0.json\","
                               "\"version\":\"2.1.0\",\"runs\":[{\"tool\":")
-            + json({
+            + compactJson({
                 {QStringLiteral("driver"), driver}
         })
             + QStringLiteral(",\n\"columnKind\":\"unicodeCodePoints\",\"results\":[");
@@ -402,7 +396,7 @@ protected:
             older.insert(QStringLiteral("message"), message(QStringLiteral("as it was")));
             result.insert(QStringLiteral("relatedLocations"), QJsonArray {older});
         }
-        return QLatin1Char('\n') + json(result);
+        return QLatin1Char('\n') + compactJson(result);
     }
 
     /** A document about the catalogue has no place for orders. */
