@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QFile>
+#include <QIODevice>
 #include <QString>
-#include <QTemporaryFile>
+
+#include <memory>
 
 /**
- * A file named on the command line that can be read again from any place: what comes through a pipe is copied
- * to a temporary file first.
+ * A file named on the command line that can be read again from any place: of what comes through a pipe, all
+ * that was read is kept in a temporary file.
  */
 class KTRereadableFile
 {
@@ -18,13 +20,12 @@ public:
     /** Why there is nothing to read; empty where there is. */
     QString error() const { return myError; }
     /** Open at its begin. */
-    QIODevice *device() { return myCopy.isOpen() ? static_cast<QIODevice *>(&myCopy) : &myFile; }
+    QIODevice *device() { return myCopy ? myCopy.get() : &myFile; }
 
 private:
-    void copy();
-
     QString myName;
     QFile myFile;
-    QTemporaryFile myCopy;
     QString myError;
+    /** Reads from the file, which is a stream; null for one that can be read again itself. */
+    std::unique_ptr<QIODevice> myCopy;
 };
