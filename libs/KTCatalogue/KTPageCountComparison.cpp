@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -32,11 +33,13 @@ bool isSame(double first, double second)
     return first == second || std::abs(first - second) < ROUNDING_MILLIMETERS || qFuzzyCompare(first, second);
 }
 
-/** A length in millimetres; one that no book has is not written out. */
+/** A length in millimetres; one that no book has is not written out, but told from any other. */
 QString number(double length, int decimals)
 {
     constexpr double LONGEST = 1e7;
-    return QString::number(length, std::abs(length) < LONGEST ? 'f' : 'g', decimals);
+    return std::abs(length) < LONGEST
+        ? QString::number(length, 'f', decimals)
+        : QString::number(length, 'g', std::numeric_limits<double>::max_digits10);
 }
 
 /** The number of decimals, one at least, in which the lengths differ. */
