@@ -129,9 +129,9 @@ void KTPageCountComparison::compareCounts()
                            .arg(QString::number(*first), nearestTo(myList->newer(), *first));
         addAboutCounts(Rule::PageCountsRemoved, message);
     }
-    // Where one side is not valid, that is said, and not what the other one has in addition.
+    // Where only one side is valid, that is said, and not what the other one has in addition.
     const auto first = myNewer.firstNotIn(myOlder);
-    if (first && myOlderPages.isValid() && myNewerPages.isValid()) {
+    if (first && myOlderPages.isValid() == myNewerPages.isValid()) {
         const QString counts = added == 1
             ? QStringLiteral("one new page count, %1").arg(*first)
             : QStringLiteral("%1 new page counts, from %2 on").arg(added).arg(*first);
