@@ -48,6 +48,18 @@ QString keySubject(const QString &key)
     return QStringLiteral("options.%1").arg(key);
 }
 
+/** Two orders of the same words, of long ones only what follows their common begin. */
+QPair<QString, QString> orderTexts(const QStringList &before, const QStringList &after)
+{
+    constexpr int MAX_WORDS = 8;
+    const auto [first, second] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    if (before.size() <= MAX_WORDS || first == before.begin())
+        return {KTDifferenceList::listed(before), KTDifferenceList::listed(after)};
+    const QString begin = QStringLiteral("..., ");
+    return {begin + KTDifferenceList::listed(QStringList(first, before.end())),
+            begin + KTDifferenceList::listed(QStringList(second, after.end()))};
+}
+
 KTArticlePart optionPart(int place, std::optional<KTAttributeId> attribute = std::nullopt)
 {
     return place < 0 ? KTArticlePart() : KTArticlePart {KTElementKind::Form, place, attribute};
@@ -436,28 +448,24 @@ void KTOptionComparison::compareOrder()
         if (was == is)
             continue;
         isTold = true;
-        KTDifference &difference
-            = myList->add(Rule::OptionOrderChanged, keySubject(key),
-                          QStringLiteral("%1 lists %2; was %3")
-                              .arg(named(key, myNewer.keyName(key)), KTDifferenceList::listed(is),
-                                   KTDifferenceList::listed(was)),
-                          KTDifferenceList::listed(was), KTDifferenceList::listed(is));
+        const auto [wasText, isText] = orderTexts(was, is);
+        KTDifference &difference = myList->add(
+            Rule::OptionOrderChanged, keySubject(key),
+            QStringLiteral("%1 lists %2; was %3").arg(named(key, myNewer.keyName(key)), isText, wasText),
+            wasText, isText);
         difference.olderPart = optionPart(myOlder.byKey.value(key).constFirst());
         difference.newerPart = optionPart(myNewer.byKey.value(key).constFirst());
         difference.key = key;
     }
     if (isTold)
         return;
-    const auto keysOf = [](const QVector<Id> &ids) {
-        QStringList keys;
-        for (const Id &id : ids) {
-            if (keys.isEmpty() || keys.constLast() != id.first.first)
-                keys.append(id.first.first);
-        }
-        return keys;
+    const auto pairs = [](const QVector<Id> &ids) {
+        QStringList texts;
+        for (const Id &id : ids)
+            texts.append(QStringLiteral("%1:%2").arg(id.first.first, id.first.second));
+        return texts;
     };
-    const QString was = KTDifferenceList::listed(keysOf(before));
-    const QString is = KTDifferenceList::listed(keysOf(after));
+    const auto [was, is] = orderTexts(pairs(before), pairs(after));
     KTDifference &difference
         = myList->add(Rule::OptionOrderChanged, QStringLiteral("options"),
                       QStringLiteral("the options are listed in the order %1; was %2").arg(is, was), was, is);
