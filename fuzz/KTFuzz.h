@@ -46,12 +46,15 @@ void elements(Bytes input);
 void texts(Bytes input);
 /** A catalogue file, through the inspector. */
 void catalogue(Bytes input);
+/** Two catalogues, each with some edits, through the comparison. */
+void diff(Bytes input);
 
 // The first byte of an input chooses what is asked, so that each of them costs little.
 constexpr std::pair<const char *, void (*)(Bytes)> TARGETS[] = {
     {"elements",  &elements },
     {"texts",     &texts    },
     {"catalogue", &catalogue},
+    {"diff",      &diff     },
 };
 
 [[noreturn]] void fail(const char *file, int line, const char *promise);

@@ -46,7 +46,7 @@ double spineMillimeters(const KTArticle &article, int pages)
 
 QList<int> samplePageCounts(const KTPageCountOrganization &counts)
 {
-    const int last = std::max(0, counts.numberOfPackages() - 1);
+    const int last = std::max(1, counts.numberOfPackages()) - 1;
     QList<int> samples {counts.minPages()};
     for (const int packages : {last / 2, last}) {
         const int pages = counts.pagesWithNExtraPackages(packages);

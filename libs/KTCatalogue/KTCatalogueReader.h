@@ -91,6 +91,7 @@ public:
 
 private:
     friend class KTCatalogue;
+    friend class KTCatalogueIndex;
     Q_DISABLE_COPY(KTCatalogueReader)
 
     /** Reads on from an article of a catalogue whose begin the other reader has read. */

@@ -6,10 +6,14 @@
 
 #include <algorithm>
 
+QString KTCheckText::shortened(const QString &text)
+{
+    return text.size() <= MAX_WORD_LENGTH ? text : text.left(MAX_WORD_LENGTH) + QStringLiteral("[...]");
+}
+
 QString KTCheckText::quoted(const QString &text)
 {
-    return QStringLiteral("'%1'").arg(
-        text.size() <= MAX_WORD_LENGTH ? text : text.left(MAX_WORD_LENGTH) + QStringLiteral("[...]"));
+    return QStringLiteral("'%1'").arg(shortened(text));
 }
 
 QString KTCheckText::suggestion(const QString &word, const QStringList &candidates)

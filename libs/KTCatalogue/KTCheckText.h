@@ -22,7 +22,9 @@ inline bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-/** In quotes, shortened where nobody would read on. */
+/** Cut off where nobody would read on. */
+QString shortened(const QString &text);
+/** In quotes, shortened. */
 QString quoted(const QString &text);
 /** "; did you mean 'alcolor'?", or nothing. */
 QString suggestion(const QString &word, const QStringList &candidates);

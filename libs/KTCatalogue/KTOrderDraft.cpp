@@ -15,7 +15,7 @@ QVector<int> nearestPages(const KTPageCountOrganization &counts, int wish)
     const int above = counts.constrain(wish);
     if (counts.pageIncrement() == 0)
         return {above};
-    const int last = counts.pagesWithNExtraPackages(std::max(0, counts.numberOfPackages() - 1));
+    const int last = counts.pagesWithNExtraPackages(std::max(1, counts.numberOfPackages()) - 1);
     const int below = counts.pagesWithNExtraPackages(counts.countPackages(wish));
     const QVector<int> nearest {std::min(below, last), std::min(above, last)};
     return nearest.first() == nearest.last() ? QVector<int> {nearest.first()} : nearest;

@@ -11,17 +11,20 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show check order preview keywords --help --language --version -h -v"
+        words="show check diff order orders preview keywords --help --language --version -h -v"
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
-        show:--format | order:--format) words="text json" ;;
+        diff:--format) words="text json markdown sarif" ;;
+        show:--format | order:--format | orders:--format) words="text json" ;;
         check:--fail-on) words="error warning hint never" ;;
+        diff:--fail-on) words="breaking charge production offer text never" ;;
         check:--color) words="auto always never" ;;
-        check:--error | check:--explain | check:--ignore)
-            words=$("$program" check --list-rules 2>/dev/null | sed 's/^ *//; s/ .*//')
+        check:--error | check:--explain | check:--ignore | diff:--explain | diff:--ignore)
+            words=$("$program" "$command" --list-rules 2>/dev/null | sed 's/^ *//; s/ .*//')
             ;;
         check:--files-from | check:--max-findings | check:-j) return ;;
+        diff:--orders | diff:--list-orders) return ;;
         keywords:--format) words="text json markdown" ;;
         *:--language) words="de en" ;;
         *:--article | *:--choose | *:--pages) return ;;
@@ -33,6 +36,11 @@ _ktcatalogue() {
                 words="--files-from --format --json --fail-on --ignore --error --pedantic -j --max-findings --quiet"
                 words+=" --list-rules --explain --color"
                 ;;
+            diff:-*)
+                words="--format --json --fail-on --ignore --article --summary --orders --list-orders --quiet"
+                words+=" --list-rules --explain"
+                ;;
+            orders:-*) words="--format --json" ;;
             order:-*) words="--article --pages --choose --format --json" ;;
             preview:-*) words="--article --pages --output -o" ;;
             keywords:-*) words="--format --json" ;;

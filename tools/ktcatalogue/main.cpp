@@ -1,9 +1,11 @@
 #include "KTCheckCommand.h"
 #include "KTConsole.h"
+#include "KTDiffCommand.h"
 #include "KTFileName.h"
 #include "KTKeywordsCommand.h"
 #include "KTLanguage.h"
 #include "KTOrderCommand.h"
+#include "KTOrdersCommand.h"
 #include "KTPreviewCommand.h"
 #include "KTShowCommand.h"
 
@@ -32,7 +34,9 @@ struct CommandRow
 constexpr CommandRow COMMANDS[] = {
     {"show",          "Shows what the library makes of each article.",           &KTShowCommand::run    },
     {"check",         "Finds what the library passes over in silence.",          &KTCheckCommand::run   },
+    {"diff",          "Tells what a new catalogue changes for customers.",       &KTDiffCommand::run    },
     {"order",         "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run   },
+    {"orders",        "Finds saved orders that can no longer be ordered.",       &KTOrdersCommand::run  },
     {DRAWING_COMMAND, "Draws the cover of an article to scale.",                 &KTPreviewCommand::run },
     {"keywords",      "Shows the keyword tables of the classifications.",        &KTKeywordsCommand::run},
 };

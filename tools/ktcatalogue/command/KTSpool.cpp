@@ -8,7 +8,12 @@ constexpr int MEMORY_LIMIT = 1024 * 1024;
 
 void KTSpool::write(const QString &text)
 {
-    myMemory += text.toUtf8();
+    write(text.toUtf8());
+}
+
+void KTSpool::write(const QByteArray &bytes)
+{
+    myMemory += bytes;
     if (myMemory.size() > MEMORY_LIMIT)
         spill();
 }

@@ -15,6 +15,8 @@ class KTSpool
 public:
     /** Adds the text, in UTF-8. */
     void write(const QString &text);
+    /** Adds the bytes as they are. */
+    void write(const QByteArray &bytes);
     /** Hands everything on to the device; false when anything could not be written or kept. */
     bool deliver(QIODevice *device);
 

@@ -2,6 +2,9 @@
 
 #include "KTFileName.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <algorithm>
 
 namespace {
@@ -64,4 +67,9 @@ QString KTTerminalText::escapedJson(const QString &json)
     // The line breaks of the document itself; those inside its texts are escaped already.
     return escapedWhere(
         json, [](QChar character) { return isObeyed(character) && character != QLatin1Char('\n'); });
+}
+
+QString KTTerminalText::compactJson(const QJsonObject &object)
+{
+    return escapedJson(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QJsonObject;
+
 /** Text from a file on its way to a terminal. */
 namespace KTTerminalText {
 
@@ -15,5 +17,7 @@ QString escaped(const QString &text);
 
 /** JSON text with the same characters escaped; it stays the same JSON. */
 QString escapedJson(const QString &json);
+/** The object as such a text, on one line. */
+QString compactJson(const QJsonObject &object);
 
 } // namespace KTTerminalText

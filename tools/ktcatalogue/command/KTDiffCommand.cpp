@@ -1,0 +1,351 @@
+#include "KTDiffCommand.h"
+
+#include "KTCommandLine.h"
+#include "KTComparedCatalogue.h"
+#include "KTConsole.h"
+#include "KTDifferenceWriter.h"
+#include "KTFileName.h"
+#include "KTLogSilence.h"
+
+#include <KTCatalogueComparison.h>
+#include <KTNearestWord.h>
+#include <KTOrderImpact.h>
+
+#include <QFile>
+#include <QSet>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+const QString FAIL_ON = QStringLiteral("fail-on");
+const QString IGNORE = QStringLiteral("ignore");
+const QString ARTICLE = QStringLiteral("article");
+const QString SUMMARY = QStringLiteral("summary");
+const QString ORDERS = QStringLiteral("orders");
+const QString LIST_ORDERS = QStringLiteral("list-orders");
+const QString QUIET = QStringLiteral("quiet");
+const QString LIST_RULES = QStringLiteral("list-rules");
+const QString EXPLAIN = QStringLiteral("explain");
+
+const QString NEVER = QStringLiteral("never");
+constexpr QChar SEPARATOR = u',';
+
+constexpr KTDifferenceKind KINDS[]
+    = {KTDifferenceKind::Breaking, KTDifferenceKind::Charge, KTDifferenceKind::Production,
+       KTDifferenceKind::Offer, KTDifferenceKind::Text};
+
+struct Options
+{
+    QString format;
+    /** Nothing when differences do not matter for the exit code. */
+    std::optional<KTDifferenceKind> failOn;
+    QSet<int> ignored;
+    std::optional<int> articleId;
+    bool isSummary = false;
+    bool isQuiet = false;
+    /** Empty without one. */
+    QString ordersName;
+    int maximumOrders = 0;
+};
+
+struct OptionRow
+{
+    const QString &name;
+    /** Empty for an option without a value. */
+    const char *valueName;
+    const char *defaultValue;
+    const char *description;
+};
+
+const OptionRow OPTIONS[] = {
+    {FAIL_ON,     "KIND",   "breaking",
+     "The least kind for exit code 1: breaking (the default), charge, production, offer, text or never."        },
+    {IGNORE,      "RULE",   "",         "Leaves out a rule, or several, separated by commas."                   },
+    {ARTICLE,     "ID",     "",         "Only the article with this number."                                    },
+    {SUMMARY,     "",       "",         "Only how many differences there are of each rule."                     },
+    {ORDERS,      "ORDERS", "",
+     "Counts the saved orders that each breaking or charge difference hits; - for standard input."              },
+    {LIST_ORDERS, "N",      "20",       "Lists the first N orders that can no longer be ordered. 20 by default."},
+    {QUIET,       "",       "",         "No summary on standard error."                                         },
+    {LIST_RULES,  "",       "",         "Lists the rules."                                                      },
+    {EXPLAIN,     "RULE",   "",         "Explains a rule."                                                      },
+};
+
+void addOptions(QCommandLineParser *parser)
+{
+    for (const OptionRow &row : OPTIONS) {
+        QCommandLineOption option(row.name, QString::fromLatin1(row.description),
+                                  QString::fromLatin1(row.valueName));
+        if (*row.defaultValue)
+            option.setDefaultValue(QString::fromLatin1(row.defaultValue));
+        parser->addOption(option);
+    }
+}
+
+/** Reports a rule that does not exist. */
+const KTDifferenceRuleRow *findRule(const QString &name)
+{
+    const KTDifferenceRuleRow *const row = KTDifferenceRules::find(name);
+    if (!row) {
+        const QString nearest = KTNearestWord::find(name, KTDifferenceRules::names());
+        KTConsole::failUsage(
+            QStringLiteral("there is no rule '%1'").arg(name)
+            + (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
+    }
+    return row;
+}
+
+QString ruleList()
+{
+    QString text;
+    for (int i = 0; i < KTDifferenceRules::COUNT; ++i) {
+        const KTDifferenceRuleRow &row = KTDifferenceRules::at(i);
+        text += QStringLiteral("%1 %2 %3\n")
+                    .arg(QString::fromLatin1(row.name), -23)
+                    .arg(KTDifferenceRules::name(row.kind), -11)
+                    .arg(QString::fromLatin1(row.summary));
+    }
+    return text;
+}
+
+QString explanation(const KTDifferenceRuleRow &row)
+{
+    return QStringLiteral("%1 (%2): %3.\n%4\n")
+        .arg(QString::fromLatin1(row.name), KTDifferenceRules::name(row.kind),
+             QString::fromLatin1(row.summary), QString::fromLatin1(row.explanation));
+}
+
+/** The number, of at least the minimum; none is reported as wrong usage. */
+std::optional<int> readNumber(const QCommandLineParser &parser, const QString &option, int minimum)
+{
+    bool ok = false;
+    const int number = parser.value(option).toInt(&ok);
+    if (ok && number >= minimum)
+        return number;
+    KTConsole::failUsage(QStringLiteral("'%1' is no number for --%2").arg(parser.value(option), option));
+    return std::nullopt;
+}
+
+/** What is to be done; an exit code for wrong usage, which is reported. */
+std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options *options)
+{
+    const QCommandLineParser &parser = commandLine.parser();
+    const std::optional<QString> format = commandLine.format();
+    if (!format)
+        return KTExitUsage;
+    options->format = *format;
+    const QString failOn = parser.value(FAIL_ON);
+    options->failOn = KTDifferenceRules::findKind(failOn);
+    if (!options->failOn && failOn != NEVER) {
+        QStringList words;
+        for (const KTDifferenceKind kind : KINDS)
+            words.append(KTDifferenceRules::name(kind));
+        return KTCommandLine::failChoice(FAIL_ON, failOn, words << NEVER);
+    }
+    for (const QString &name : parser.values(IGNORE).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts)) {
+        const KTDifferenceRuleRow *const row = findRule(name);
+        if (!row)
+            return KTExitUsage;
+        options->ignored.insert(static_cast<int>(row->rule));
+    }
+    if (parser.isSet(ARTICLE)) {
+        options->articleId = readNumber(parser, ARTICLE, 1);
+        if (!options->articleId)
+            return KTExitUsage;
+    }
+    options->isSummary = parser.isSet(SUMMARY);
+    options->isQuiet = parser.isSet(QUIET);
+    options->ordersName = parser.value(ORDERS);
+    if (parser.isSet(LIST_ORDERS) && !parser.isSet(ORDERS))
+        return KTConsole::failUsage(QStringLiteral("--%1 needs --%2").arg(LIST_ORDERS, ORDERS));
+    const std::optional<int> maximum = readNumber(parser, LIST_ORDERS, 0);
+    if (!maximum)
+        return KTExitUsage;
+    options->maximumOrders = *maximum;
+    return std::nullopt;
+}
+
+/** Two catalogues, both readable, and what is asked about them. */
+class Comparison
+{
+public:
+    Comparison(KTComparedCatalogue *older, KTComparedCatalogue *newer, const Options &options)
+        : myOlder(older)
+        , myNewer(newer)
+        , myOptions(options)
+        , myWriter(
+              KTDifferenceWriter::create({options.format, older->name(), newer->name(), options.isSummary}))
+    {
+    }
+
+    KTExitCode run()
+    {
+        if (const auto code = myOptions.ordersName.isEmpty() ? compare() : compareWithOrders())
+            return *code;
+        QFile output;
+        if (!output.open(stdout, QIODevice::WriteOnly) || !myWriter->deliver(&output) || !output.flush())
+            return KTConsole::failToWrite();
+        if (!myOptions.isQuiet)
+            KTConsole::note(QStringLiteral("%1 -> %2: %3")
+                                .arg(myOlder->name(), myNewer->name(), myWriter->counts().toText()));
+        return myIsFailed ? KTExitFindings : KTExitSuccess;
+    }
+
+private:
+    using Receiver = std::function<void(const KTDifference &)>;
+
+    /** Hands out what is not ignored; an exit code when a file is no longer what it was. */
+    std::optional<KTExitCode> forEach(const Receiver &receiver)
+    {
+        KTCatalogueComparison comparison(myOlder->index(), myNewer->index());
+        const bool isComplete = comparison.run([&](const QVector<KTDifference> &differences) {
+            for (const KTDifference &difference : differences) {
+                if (myOptions.ignored.contains(static_cast<int>(difference.rule)))
+                    continue;
+                const KTDifferenceKind kind = KTDifferenceRules::row(difference.rule).kind;
+                myIsFailed = myIsFailed || (myOptions.failOn && kind >= *myOptions.failOn);
+                receiver(difference);
+            }
+        });
+        return isComplete ? std::nullopt : failure();
+    }
+
+    std::optional<KTExitCode> failure() const
+    {
+        const std::optional<KTExitCode> code = myOlder->reportFailure();
+        return code ? code : myNewer->reportFailure();
+    }
+
+    std::optional<KTExitCode> compare()
+    {
+        return forEach([this](const KTDifference &difference) { myWriter->write(difference); });
+    }
+
+    /** Keeps the differences that orders are counted for, because those that hit most of them come first. */
+    std::optional<KTExitCode> compareWithOrders()
+    {
+        QVector<KTDifference> kept;
+        if (const auto code = forEach([&](const KTDifference &difference) {
+                if (KTDifferenceRules::row(difference.rule).kind >= KTDifferenceKind::Charge)
+                    kept.append(difference);
+                else
+                    myWriter->write(difference);
+            }))
+            return code;
+        KTOrderImpact impact([this](int id) { return myOlder->index()->article(id); },
+                             [this](int id) { return myNewer->index()->article(id); }, kept);
+        if (const auto code = readOrders(&impact))
+            return code;
+        QVector<int> order(kept.size());
+        std::iota(order.begin(), order.end(), 0);
+        std::stable_sort(order.begin(), order.end(), [&](int first, int second) {
+            return impact.hits(first).value_or(0) > impact.hits(second).value_or(0);
+        });
+        for (const int index : order)
+            myWriter->write(kept.at(index), impact.hits(index));
+        return std::nullopt;
+    }
+
+    std::optional<KTExitCode> readOrders(KTOrderImpact *impact)
+    {
+        const QString &name = myOptions.ordersName;
+        QFile file;
+        const QString error = KTFileName::open(&file, name);
+        if (!error.isEmpty())
+            return KTConsole::fail(KTExitUnreadable, QStringLiteral("%1: error: %2").arg(name, error));
+        KTSavedOrders orders(&file);
+        KTSavedOrder order;
+        KTOrderCounts counts;
+        counts.fileName = name;
+        KTProgressLine progress(!myOptions.isQuiet);
+        for (auto item = orders.next(&order); item != KTSavedOrders::Item::End; item = orders.next(&order)) {
+            if (item == KTSavedOrders::Item::Error)
+                return KTConsole::fail(KTExitUnreadable,
+                                       QStringLiteral("%1: error: %2").arg(name, orders.error()));
+            if (item == KTSavedOrders::Item::Malformed) {
+                ++counts.malformed;
+                continue;
+            }
+            if (myOptions.articleId && order.articleId != *myOptions.articleId)
+                continue;
+            const KTOrderImpact::Outcome outcome = impact->add(order);
+            if (outcome.isBroken() && counts.listed < myOptions.maximumOrders) {
+                ++counts.listed;
+                myWriter->writeBroken(name, order, outcome.verdict);
+            }
+            if (progress.isDue())
+                progress.show(QStringLiteral("%1: %2 orders").arg(name, QString::number(impact->orders())));
+        }
+        progress.clear();
+        counts.orders = impact->orders();
+        counts.refusedBefore = impact->refusedBefore();
+        counts.broken = impact->broken();
+        myWriter->setOrders(counts);
+        return failure();
+    }
+
+    KTComparedCatalogue *myOlder;
+    KTComparedCatalogue *myNewer;
+    const Options &myOptions;
+    const std::unique_ptr<KTDifferenceWriter> myWriter;
+    bool myIsFailed = false;
+};
+
+KTExitCode compareFiles(const QString &olderName, const QString &newerName, const Options &options)
+{
+    KTComparedCatalogue older(olderName, options.articleId);
+    KTComparedCatalogue newer(newerName, options.articleId);
+    const std::optional<KTExitCode> olderFailure = older.reportFailure();
+    const std::optional<KTExitCode> newerFailure = newer.reportFailure();
+    if (olderFailure || newerFailure)
+        return olderFailure ? *olderFailure : *newerFailure;
+    if (options.articleId && older.index()->size() == 0 && newer.index()->size() == 0)
+        return KTConsole::fail(KTExitUnanswerable,
+                               QStringLiteral("there is no article %1 in %2 nor in %3")
+                                   .arg(QString::number(*options.articleId), olderName, newerName));
+    return Comparison(&older, &newer, options).run();
+}
+
+} // namespace
+
+KTExitCode KTDiffCommand::run(const QStringList &arguments)
+{
+    KTCommandLine commandLine(
+        QStringLiteral("diff"),
+        QStringLiteral("Compares two catalogues as the application reads them and tells what changes for "
+                       "customers, orders and production. Exits with 0 when nothing was found, 1 for "
+                       "differences of the kind of --fail-on or a graver one, 2 for files that are not "
+                       "readable."),
+        QStringLiteral("examples/catalogue.xml examples/catalogue-next.xml --orders examples/orders.tsv"),
+        KTCommandLine::Files::None);
+    commandLine.parser().addPositionalArgument(
+        QStringLiteral("OLD"), QStringLiteral("The catalogue as it was; - for standard input."));
+    commandLine.parser().addPositionalArgument(
+        QStringLiteral("NEW"), QStringLiteral("The catalogue as it is to be; - for standard input."));
+    commandLine.addFormats(KTDifferenceWriter::formats());
+    addOptions(&commandLine.parser());
+    if (const auto code = commandLine.parse(arguments))
+        return *code;
+
+    const QCommandLineParser &parser = commandLine.parser();
+    if (parser.isSet(LIST_RULES))
+        return KTConsole::print(ruleList());
+    if (parser.isSet(EXPLAIN)) {
+        const KTDifferenceRuleRow *const row = findRule(parser.value(EXPLAIN));
+        return row ? KTConsole::print(explanation(*row)) : KTExitUsage;
+    }
+    Options options;
+    if (const auto code = readOptions(commandLine, &options))
+        return *code;
+    const QStringList names = commandLine.fileNames();
+    if (names.size() != 2)
+        return KTConsole::failUsage(QStringLiteral("'diff' needs two files, OLD and NEW"));
+    const QStringList inputs = names + QStringList {options.ordersName};
+    if (std::count_if(inputs.begin(), inputs.end(), &KTFileName::isStandardInput) > 1)
+        return KTConsole::failUsage(QStringLiteral("standard input can be read only once"));
+
+    const KTLogSilence silence;
+    return compareFiles(names.constFirst(), names.constLast(), options);
+}
