@@ -1,5 +1,6 @@
 #include "KTFuzz.h"
 
+#include <KTArithmetic.h>
 #include <KTCatalogueComparison.h>
 #include <KTCatalogueFormat.h>
 #include <KTOrderImpact.h>
@@ -94,19 +95,19 @@ void edit(Node *root, KTFuzz::Bytes *input)
     enum Edit { Set, Remove, Double, Drop, Swap, COUNT };
     QVector<Node *> nodes;
     collect(root, &nodes);
-    Node *const node = nodes.at(input->takeIndex(nodes.size()));
+    Node *const node = nodes.at(input->takeIndex(KTArithmetic::sizeOf(nodes)));
     const int kind = input->takeIndex(COUNT);
     if (kind == Set) {
         const KTElementRow *const row = KTCatalogueFormat::element(node->name);
         const QStringList names = row ? KTCatalogueFormat::attributeNames(row->kind) : QStringList();
         if (!names.isEmpty()) {
-            const QString name = names.at(input->takeIndex(names.size()));
+            const QString name = names.at(input->takeIndex(KTArithmetic::sizeOf(names)));
             setAttribute(node, name, takeValue(input));
         }
     } else if (kind == Remove && !node->attributes.isEmpty()) {
-        node->attributes.removeAt(input->takeIndex(node->attributes.size()));
+        node->attributes.removeAt(input->takeIndex(KTArithmetic::sizeOf(node->attributes)));
     } else if (kind != Remove && !node->children.isEmpty()) {
-        const int index = input->takeIndex(node->children.size());
+        const int index = input->takeIndex(KTArithmetic::sizeOf(node->children));
         if (kind == Double)
             node->children.append(Node(node->children.at(index)));
         else if (kind == Drop)

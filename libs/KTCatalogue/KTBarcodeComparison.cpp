@@ -3,6 +3,8 @@
 #include "KTCheckText.h"
 #include "KTMillimeterText.h"
 
+#include <KTArithmetic.h>
+
 #include <QHash>
 
 namespace {
@@ -92,7 +94,7 @@ void KTBarcodeComparison::match(Key key)
 {
     QHash<QString, QVector<int>> open;
     // From the last to the first, so that the first one is taken first.
-    for (int newer = myNewer.size() - 1; newer >= 0; --newer) {
+    for (int newer = KTArithmetic::sizeOf(myNewer) - 1; newer >= 0; --newer) {
         if (myOlderOf.at(newer) < 0)
             open[key(myNewer.at(newer))].append(newer);
     }

@@ -3,6 +3,8 @@
 #include "KTCheckText.h"
 #include "KTVariantsText.h"
 
+#include <KTArithmetic.h>
+
 #include <algorithm>
 
 namespace {
@@ -348,7 +350,7 @@ void KTOptionComparison::compareShared(KTDifferenceRule rule, KTAttributeId attr
         const QPair<QString, QPair<QString, QString>> change(id.first.first, {before, after});
         const auto found = indexes.constFind(change);
         if (found == indexes.constEnd()) {
-            indexes.insert(change, groups.size());
+            indexes.insert(change, KTArithmetic::sizeOf(groups));
             groups.append({place, newerPlace, {id.first.second}});
         } else {
             groups[*found].values.append(id.first.second);

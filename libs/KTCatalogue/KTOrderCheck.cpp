@@ -3,6 +3,8 @@
 #include "KTCheckText.h"
 #include "KTVariantsText.h"
 
+#include <KTArithmetic.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
@@ -147,7 +149,8 @@ const KTOrderCheck::Draft *KTOrderCheck::draft(int articleId)
         draft->emplace(*article);
     // What costs more than all that is kept would not stay; nobody gets an article of so many options to
     // order.
-    const int cost = std::min(MAX_KEPT_OPTIONS, ARTICLE_COST + (article ? article->options().size() : 0));
+    const int cost
+        = std::min(MAX_KEPT_OPTIONS, ARTICLE_COST + (article ? KTArithmetic::sizeOf(article->options()) : 0));
     Draft *const kept = draft.release();
     myDrafts.insert(articleId, kept, cost);
     return kept;

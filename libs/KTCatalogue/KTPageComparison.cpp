@@ -2,6 +2,8 @@
 
 #include "KTMillimeterText.h"
 
+#include <KTArithmetic.h>
+
 #include <QMap>
 
 namespace {
@@ -79,7 +81,7 @@ QVector<KTPageComparison::Group> KTPageComparison::groups() const
         const auto [olderPage, newerPage] = pair.value();
         const auto found = places.constFind({type, pair.value()});
         if (found == places.constEnd()) {
-            places.insert({type, pair.value()}, groups.size());
+            places.insert({type, pair.value()}, KTArithmetic::sizeOf(groups));
             groups.append({type, olderPage, newerPage, pair.key().second});
         } else {
             groups[*found].alignments |= pair.key().second;
