@@ -19,8 +19,9 @@ namespace KTArticleComparison {
 /** In the order of the rules, without places in files. */
 [[nodiscard]] KTCATALOGUE_EXPORT QVector<KTDifference> differences(const KTArticle &older,
                                                                    const KTArticle &newer);
-/** The one difference there is for an article that only one catalogue has. */
+/** The one difference there is for an article that only the older catalogue has. */
 [[nodiscard]] KTCATALOGUE_EXPORT KTDifference removal(const KTArticle &older);
+/** The one for an article that only the newer catalogue has. */
 [[nodiscard]] KTCATALOGUE_EXPORT KTDifference addition(const KTArticle &newer);
 
 } // namespace KTArticleComparison

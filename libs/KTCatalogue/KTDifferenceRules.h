@@ -93,6 +93,7 @@ enum class KTDifferenceReach {
     WithPages,
 };
 
+/** What there is to know about a rule. */
 struct KTDifferenceRuleRow
 {
     KTDifferenceRule rule;
@@ -105,17 +106,23 @@ struct KTDifferenceRuleRow
     const char *explanation;
 };
 
+/** The rules of comparison and their kinds; safe from any thread. */
 namespace KTDifferenceRules {
 
+/** How many rules there are. */
 constexpr int COUNT = static_cast<int>(KTDifferenceRule::COUNT);
+/** How many kinds of rules there are. */
 constexpr int KIND_COUNT = static_cast<int>(KTDifferenceKind::Breaking) + 1;
 
+/** The row of the rule. */
 KTCATALOGUE_EXPORT const KTDifferenceRuleRow &row(KTDifferenceRule rule);
 /** The row at the index, which is the rule's number. */
 KTCATALOGUE_EXPORT const KTDifferenceRuleRow &at(int index);
 /** Null for a name that no rule has. */
 KTCATALOGUE_EXPORT const KTDifferenceRuleRow *find(const QString &name);
+/** The names of all rules, in the order of their numbers. */
 KTCATALOGUE_EXPORT QStringList names();
+/** The rule's name, which does not change: "option-removed". */
 KTCATALOGUE_EXPORT QString name(KTDifferenceRule rule);
 /** "breaking", "charge", "production", "offer" or "text". */
 KTCATALOGUE_EXPORT QString name(KTDifferenceKind kind);

@@ -18,6 +18,8 @@ public:
     KTOrderImpact(const KTOrderCheck::Source &older, const KTOrderCheck::Source &newer,
                   const QVector<KTDifference> &differences);
 
+    /** What becomes of one order: whether it could be ordered before, and what the newer catalogue says of
+     * it. */
     struct Outcome
     {
         bool wasFine;
@@ -25,14 +27,17 @@ public:
         /** True for an order that the changes break. */
         bool isBroken() const { return wasFine && !verdict.problems.isEmpty(); }
     };
+    /** Looks an order through, and counts it. */
     Outcome add(const KTSavedOrder &order);
 
     /** The orders that the difference hits; none where none is looked for. */
     std::optional<qint64> hits(int difference) const;
 
+    /** How many orders were looked through. */
     qint64 orders() const { return myOrders; }
     /** Those that could not be ordered before either. */
     qint64 refusedBefore() const { return myRefusedBefore; }
+    /** Those that were fine before and are not now. */
     qint64 broken() const { return myBroken; }
 
 private:

@@ -7,8 +7,6 @@
 
 #include <cstddef>
 
-// Look-ups in tables of facts: arrays of structures whose member "value" says what the row is about.
-
 /** The plainest such row: a translatable text for the value. */
 template <typename ENUM>
 struct KTTextRow
@@ -17,6 +15,7 @@ struct KTTextRow
     const char *text;
 };
 
+/** Look-ups in tables of facts: arrays of structures whose member "value" says what the row is about. */
 namespace KTFactRows {
 
 /** The row of exactly this value, or the fallback. */

@@ -14,6 +14,7 @@ struct KTKeywordRow
     ENUM value;
 };
 
+/** What is done with a table of keyword rows. */
 namespace KTKeywordRows {
 
 /** Inserts the rows in their order, which decides what is written for a value with several keywords. */
