@@ -66,7 +66,7 @@ private Q_SLOTS:
             "cannot have 40 pages; the nearest valid page counts: 38");
         row("far above", steps, 100, "cannot have 100 pages; the nearest valid page counts: 38");
         row("inverted, over all of int", u"pages='2147483647' max_pages='-2147483648' page_step='1'"_s, 3,
-            "cannot have 3 pages; the nearest valid page counts: 2147483647");
+            "cannot have 3 pages; no page count is valid");
         row("no step", u"pages='20'"_s, 21, "cannot have 21 pages; the nearest valid page counts: 20");
     }
     void setsPages()

@@ -1,5 +1,7 @@
 #include "KTCatalogue.h"
 
+#include "KTDeviceSection.h"
+
 #include <QFileInfo>
 
 KTCatalogue::KTCatalogue(const QString &fileName)
@@ -45,7 +47,8 @@ bool KTCatalogue::read(int articleId, KTCatalogueArticle *article)
         return false;
     myError = KTCatalogueError();
     if (isUnchanged() && myFile.seek(found->position.offset)) {
-        KTCatalogueReader reader(&myFile, *myReader, found->position);
+        KTDeviceSection section(&myFile, found->length);
+        KTCatalogueReader reader(&section, *myReader, found->position);
         if (reader.next(article) == KTCatalogueReader::Item::Article
             && article->elementRange(0).length() == found->length
             && KTArticleId::findId(article->root()) == articleId) {

@@ -1,43 +1,11 @@
 #include "KTCatalogueIndex.h"
 
 #include "KTArticleDigest.h"
-
-#include <QIODevice>
+#include "KTDeviceSection.h"
 
 #include <algorithm>
 #include <limits>
 #include <utility>
-
-namespace {
-
-/** A part of a device, so that nobody reads beyond what is wanted. */
-class Section : public QIODevice
-{
-public:
-    Section(QIODevice *device, qint64 length)
-        : myDevice(device)
-        , myLeft(length)
-    {
-        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    }
-
-    bool isSequential() const override { return true; }
-
-protected:
-    qint64 readData(char *data, qint64 size) override
-    {
-        const qint64 length = myDevice->read(data, std::min(size, myLeft));
-        myLeft -= std::max<qint64>(length, 0);
-        return length;
-    }
-    qint64 writeData(const char *, qint64) override { return -1; }
-
-private:
-    QIODevice *myDevice;
-    qint64 myLeft;
-};
-
-} // namespace
 
 KTCatalogueIndex::KTCatalogueIndex(QIODevice *device, std::optional<int> articleId, const Listener &listener)
     : myDevice(device)
@@ -103,7 +71,7 @@ bool KTCatalogueIndex::read(int place, KTCatalogueArticle *article)
     const Entry &entry = myEntries.at(static_cast<std::size_t>(place));
     const KTFilePosition position {entry.line, entry.column, entry.offset};
     if (myDevice->seek(entry.offset)) {
-        Section section(myDevice, entry.length);
+        KTDeviceSection section(myDevice, entry.length);
         KTCatalogueReader reader(&section, *myReader, position);
         if (reader.next(article) == KTCatalogueReader::Item::Article
             && KTArticleDigest::of(article->fragment()) == entry.digest) {

@@ -9,16 +9,23 @@
 
 namespace {
 
-/** The valid page counts below and above a wish that is not valid. */
+/** The valid page counts below and above a wish that is not valid; none where page counts end before they
+ * begin. */
 QVector<int> nearestPages(const KTPageCountOrganization &counts, int wish)
 {
     const int above = counts.constrain(wish);
-    if (counts.pageIncrement() == 0)
-        return {above};
-    const int last = counts.pagesWithNExtraPackages(std::max(1, counts.numberOfPackages()) - 1);
-    const int below = counts.pagesWithNExtraPackages(counts.countPackages(wish));
-    const QVector<int> nearest {std::min(below, last), std::min(above, last)};
-    return nearest.first() == nearest.last() ? QVector<int> {nearest.first()} : nearest;
+    QVector<int> candidates {above};
+    if (counts.pageIncrement() != 0) {
+        const int last = counts.pagesWithNExtraPackages(std::max(1, counts.numberOfPackages()) - 1);
+        const int below = counts.pagesWithNExtraPackages(counts.countPackages(wish));
+        candidates = {std::min(below, last), std::min(above, last)};
+    }
+    QVector<int> nearest;
+    for (const int pages : candidates) {
+        if (counts.isValidPageCount(pages) && !nearest.contains(pages))
+            nearest.append(pages);
+    }
+    return nearest;
 }
 
 std::optional<KTOrderRefusal> refusalOf(const KTConfiguredArticleVariantList &options, const QString &key,

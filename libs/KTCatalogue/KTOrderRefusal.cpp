@@ -3,6 +3,8 @@
 QString KTOrderRefusal::toString() const
 {
     if (reason == Reason::PageCount) {
+        if (nearestPages.isEmpty())
+            return QStringLiteral("cannot have %1 pages; no page count is valid").arg(pages);
         QStringList counts;
         for (const int count : nearestPages)
             counts.append(QString::number(count));

@@ -27,7 +27,8 @@ struct KTCATALOGUE_EXPORT KTOrderRefusal
     QStringList offered;
     /** The one that is most like the wish; null when none is like it. */
     QString nearest;
-    /** The valid page counts below and above the wish, or the only one; not for options. */
+    /** The valid page counts below and above the wish, or the only one; empty where none is, and for options.
+     */
     QVector<int> nearestPages;
 
     /** A predicate in English, "does not offer 'rde' for 'alcolor'; offered: ...", without a full stop. */

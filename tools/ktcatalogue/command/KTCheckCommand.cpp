@@ -132,21 +132,6 @@ std::optional<KTExitCode> readFailOn(const QString &word, std::optional<KTSeveri
                                 : std::make_optional(KTCommandLine::failChoice(FAIL_ON, word, words));
 }
 
-/** Reads the option's number; one that is none, or too small, is reported as wrong usage. */
-bool readNumber(const QCommandLineParser &parser, const QString &option, int minimum, int *number)
-{
-    bool ok = false;
-    *number = parser.value(option).toInt(&ok);
-    if (!ok || *number < minimum) {
-        KTConsole::failUsage(QStringLiteral("'%1' is no number for %2%3")
-                                 .arg(parser.value(option),
-                                      option.size() == 1 ? QStringLiteral("-") : QStringLiteral("--"),
-                                      option));
-        return false;
-    }
-    return true;
-}
-
 /** What is to be done; an exit code for wrong usage, which is reported. */
 std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options *options)
 {
@@ -174,10 +159,16 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
         options->severities.raiseToError(KTCheckRules::find(name)->rule);
     options->severities.setPedantic(parser.isSet(PEDANTIC));
     options->isQuiet = parser.isSet(QUIET);
-    if (parser.isSet(MAX_FINDINGS) && !readNumber(parser, MAX_FINDINGS, 0, &options->maximum))
+    if (parser.isSet(MAX_FINDINGS)) {
+        const std::optional<int> maximum = KTCommandLine::number(parser, MAX_FINDINGS, 0);
+        if (!maximum)
+            return KTExitUsage;
+        options->maximum = *maximum;
+    }
+    const std::optional<int> jobs = KTCommandLine::number(parser, JOBS, 1);
+    if (!jobs)
         return KTExitUsage;
-    if (!readNumber(parser, JOBS, 1, &options->jobs))
-        return KTExitUsage;
+    options->jobs = *jobs;
     return std::nullopt;
 }
 

@@ -110,6 +110,18 @@ std::optional<QList<int>> KTCommandLine::numbers(const QCommandLineOption &optio
     return numbers;
 }
 
+std::optional<int> KTCommandLine::number(const QCommandLineParser &parser, const QString &option, int minimum)
+{
+    bool ok = false;
+    const int number = parser.value(option).toInt(&ok);
+    if (ok && number >= minimum)
+        return number;
+    KTConsole::failUsage(QStringLiteral("'%1' is no number for %2%3")
+                             .arg(parser.value(option),
+                                  option.size() == 1 ? QStringLiteral("-") : QStringLiteral("--"), option));
+    return std::nullopt;
+}
+
 KTExitCode KTCommandLine::failChoice(const QString &option, const QString &value, const QStringList &choices)
 {
     return KTConsole::failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")

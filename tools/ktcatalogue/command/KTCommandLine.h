@@ -43,6 +43,9 @@ public:
     /** Each of the option's values as a number; one that is none is reported as wrong usage. */
     std::optional<QList<int>> numbers(const QCommandLineOption &option) const;
 
+    /** The option's last value as a number; one that is none, or too small, is reported as wrong usage. */
+    static std::optional<int> number(const QCommandLineParser &parser, const QString &option, int minimum);
+
     /** Reports a value that the option does not have. */
     static KTExitCode failChoice(const QString &option, const QString &value, const QStringList &choices);
     KTExitCode failNoArticle(int articleId) const;

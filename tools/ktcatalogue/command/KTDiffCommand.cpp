@@ -117,17 +117,6 @@ QString explanation(const KTDifferenceRuleRow &row)
              QString::fromLatin1(row.summary), QString::fromLatin1(row.explanation));
 }
 
-/** The number, of at least the minimum; none is reported as wrong usage. */
-std::optional<int> readNumber(const QCommandLineParser &parser, const QString &option, int minimum)
-{
-    bool ok = false;
-    const int number = parser.value(option).toInt(&ok);
-    if (ok && number >= minimum)
-        return number;
-    KTConsole::failUsage(QStringLiteral("'%1' is no number for --%2").arg(parser.value(option), option));
-    return std::nullopt;
-}
-
 /** What is to be done; an exit code for wrong usage, which is reported. */
 std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options *options)
 {
@@ -151,7 +140,7 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
         options->ignored.insert(static_cast<int>(row->rule));
     }
     if (parser.isSet(ARTICLE)) {
-        options->articleId = readNumber(parser, ARTICLE, 1);
+        options->articleId = KTCommandLine::number(parser, ARTICLE, 1);
         if (!options->articleId)
             return KTExitUsage;
     }
@@ -160,7 +149,7 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     options->ordersName = parser.value(ORDERS);
     if (parser.isSet(LIST_ORDERS) && !parser.isSet(ORDERS))
         return KTConsole::failUsage(QStringLiteral("--%1 needs --%2").arg(LIST_ORDERS, ORDERS));
-    const std::optional<int> maximum = readNumber(parser, LIST_ORDERS, 0);
+    const std::optional<int> maximum = KTCommandLine::number(parser, LIST_ORDERS, 0);
     if (!maximum)
         return KTExitUsage;
     options->maximumOrders = *maximum;
