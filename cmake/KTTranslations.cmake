@@ -17,6 +17,7 @@ function(kt_translations)
             COMMAND "${KT_LRELEASE}" -silent "${source}" -qm "${compiled}"
             DEPENDS "${source}" VERBATIM)
         add_custom_target(KTTranslations_${name} ALL DEPENDS "${compiled}")
+        add_dependencies(KTCore KTTranslations_${name})
         kt_install(FILES "${compiled}" DESTINATION "${folder}" COMPONENT Runtime)
     endforeach()
 endfunction()

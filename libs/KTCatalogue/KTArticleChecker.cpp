@@ -1,5 +1,6 @@
 #include "KTArticleChecker.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 
 #include <KTArticleId.h>
@@ -106,8 +107,9 @@ KTElementKind KTArticleChecker::enter(int index)
     if (row->isSingle && hasElement) {
         myCursor.report(
             KTRule::RepeatedElement,
-            QStringLiteral("a further '%1'; the application reads the first one only and skips this one with "
-                           "everything inside")
+            KTCatalogueText::tr(
+                "a further '%1'; the application reads the first one only and skips this one with "
+                "everything inside")
                 .arg(row->name));
         return KTElementKind::Unread;
     }
@@ -146,11 +148,11 @@ void KTArticleChecker::reportUnread(KTElementKind parent)
     const QString name = myCursor.name().toString();
     const KTElementRow *const elsewhere = KTCatalogueFormat::element(name);
     const QString place = elsewhere
-        ? QStringLiteral("; it belongs into '%1'").arg(KTCatalogueFormat::elementName(elsewhere->parent))
+        ? KTCatalogueText::tr("; it belongs into '%1'").arg(KTCatalogueFormat::elementName(elsewhere->parent))
         : suggestion(name, KTCatalogueFormat::elementNames(parent));
     myCursor.report(
         KTRule::UnknownElement,
-        QStringLiteral("nothing reads %1 in '%2'; the application skips it with everything inside")
+        KTCatalogueText::tr("nothing reads %1 in '%2'; the application skips it with everything inside")
                 .arg(quoted(name), KTCatalogueFormat::elementName(parent))
             + place);
 }
@@ -161,13 +163,13 @@ void KTArticleChecker::checkArticle()
     const KTArticleId artId = KTArticleId(article, KTCatalogueFormat::attributeName(Id::ArticleArtId));
     const KTArticleId id = KTArticleId(article, KTCatalogueFormat::attributeName(Id::ArticleId));
     if (!KTArticleId(myArticleId).isValid()) {
-        myCursor.report(
-            KTRule::NoArticleId,
-            QStringLiteral("neither 'art_id' nor 'id' is a positive number; no order can name the article"),
-            myCursor.firstOf({Id::ArticleArtId, Id::ArticleId}));
+        myCursor.report(KTRule::NoArticleId,
+                        KTCatalogueText::tr(
+                            "neither 'art_id' nor 'id' is a positive number; no order can name the article"),
+                        myCursor.firstOf({Id::ArticleArtId, Id::ArticleId}));
     } else if (artId.isValid() && id.isValid() && artId != id) {
         myCursor.report(KTRule::ConflictingIds,
-                        QStringLiteral("'art_id' is %1 and 'id' is %2; the application takes %3")
+                        KTCatalogueText::tr("'art_id' is %1 and 'id' is %2; the application takes %3")
                             .arg(artId.id())
                             .arg(id.id())
                             .arg(myArticleId),
@@ -175,7 +177,7 @@ void KTArticleChecker::checkArticle()
     }
     if (!myCursor.has(Id::ArticleProductName)) {
         myCursor.report(KTRule::NoProductName,
-                        QStringLiteral("there is no 'productname'; the application takes '%1'")
+                        KTCatalogueText::tr("there is no 'productname'; the application takes '%1'")
                             .arg(KTProductType::fromMcf(article).orderTxtName()));
     }
     checkPriceClass();
@@ -189,11 +191,11 @@ void KTArticleChecker::checkPriceClass()
         return;
     const QString family = priceClassFamily(code);
     if (!priceClassFamilies().contains(family)) {
-        myCursor.report(
-            KTRule::UnknownPriceClass,
-            QStringLiteral("%1 is no known family of price classes; the application bills %2 as it stands")
-                    .arg(quoted(family), quoted(code))
-                + suggestion(family, priceClassFamilies()),
-            myCursor.attribute(Id::ArticlePriceClass));
+        myCursor.report(KTRule::UnknownPriceClass,
+                        KTCatalogueText::tr(
+                            "%1 is no known family of price classes; the application bills %2 as it stands")
+                                .arg(quoted(family), quoted(code))
+                            + suggestion(family, priceClassFamilies()),
+                        myCursor.attribute(Id::ArticlePriceClass));
     }
 }

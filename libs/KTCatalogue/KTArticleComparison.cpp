@@ -1,6 +1,7 @@
 #include "KTArticleComparison.h"
 
 #include "KTBarcodeComparison.h"
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTDifferenceList.h"
 #include "KTOptionComparison.h"
@@ -21,17 +22,27 @@ struct ClassificationRow
 };
 
 constexpr ClassificationRow CLASSIFICATIONS[] = {
-    {KTAttributeId::ArticleClass,          Rule::ArticleClassChanged,   "the class of the article"},
-    {KTAttributeId::ArticleArrangement,    Rule::ArrangementChanged,    "the arrangement"         },
-    {KTAttributeId::ArticleSpaceMagnitude, Rule::SpaceMagnitudeChanged, "the class of size"       },
-    {KTAttributeId::ArticleOrientation,    Rule::OrientationChanged,    "the orientation"         },
-    {KTAttributeId::ArticleCoverType,      Rule::CoverTypeChanged,      "the cover"               },
-    {KTAttributeId::ArticleBinding,        Rule::BindingChanged,        "the binding"             },
-    {KTAttributeId::ArticlePaper,          Rule::PaperChanged,          "the paper"               },
-    {KTAttributeId::ArticlePhotoPaper,     Rule::PhotoPaperChanged,     "the photo paper"         },
-    {KTAttributeId::ArticleMaterial,       Rule::MaterialChanged,       "the material"            },
-    {KTAttributeId::ArticleContentType,    Rule::ContentTypeChanged,    "the content"             },
-    {KTAttributeId::ArticleSpotColors,     Rule::SpotColorsChanged,     "the list of spot colours"},
+    {KTAttributeId::ArticleClass,          Rule::ArticleClassChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the class of the article")},
+    {KTAttributeId::ArticleArrangement,    Rule::ArrangementChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the arrangement")         },
+    {KTAttributeId::ArticleSpaceMagnitude, Rule::SpaceMagnitudeChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the class of size")       },
+    {KTAttributeId::ArticleOrientation,    Rule::OrientationChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the orientation")         },
+    {KTAttributeId::ArticleCoverType,      Rule::CoverTypeChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the cover")               },
+    {KTAttributeId::ArticleBinding,        Rule::BindingChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the binding")             },
+    {KTAttributeId::ArticlePaper,          Rule::PaperChanged,          QT_TRANSLATE_NOOP("KTCatalogueText", "the paper")               },
+    {KTAttributeId::ArticlePhotoPaper,     Rule::PhotoPaperChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the photo paper")         },
+    {KTAttributeId::ArticleMaterial,       Rule::MaterialChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the material")            },
+    {KTAttributeId::ArticleContentType,    Rule::ContentTypeChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the content")             },
+    {KTAttributeId::ArticleSpotColors,     Rule::SpotColorsChanged,
+     QT_TRANSLATE_NOOP("KTCatalogueText",                                                                    "the list of spot colours")},
 };
 
 /** What the article has for a classification. */
@@ -57,20 +68,20 @@ struct Classified
 
 QString orNone(const QString &text)
 {
-    return text.isEmpty() ? QStringLiteral("none") : KTCheckText::quoted(text);
+    return text.isEmpty() ? KTCatalogueText::tr("none") : KTCheckText::quoted(text);
 }
 
 QString changeText(const QString &what, const QString &before, const QString &after)
 {
-    return QStringLiteral("%1 is %2, was %3").arg(what, orNone(after), orNone(before));
+    return KTCatalogueText::tr("%1 is %2, was %3").arg(what, orNone(after), orNone(before));
 }
 
 void addAboutArticle(KTDifferenceList *list, Rule rule, const QString &subject, const QString &what,
                      const QString &before, const QString &after, KTAttributeId attribute)
 {
     KTDifference &difference = list->add(
-        rule, subject, QStringLiteral("%1 is %2, was %3").arg(what, orNone(after), orNone(before)), before,
-        after);
+        rule, subject, KTCatalogueText::tr("%1 is %2, was %3").arg(what, orNone(after), orNone(before)),
+        before, after);
     difference.olderPart = {KTElementKind::Article, 0, attribute};
     difference.newerPart = {KTElementKind::Article, 0, attribute};
 }
@@ -87,7 +98,7 @@ void compareClassifications(KTDifferenceList *list)
         KTDifference &difference = list->add(
             row.rule,
             QStringLiteral("classifications.%1").arg(KTCatalogueFormat::attributeName(row.attribute)),
-            changeText(QString::fromLatin1(row.what), before.text, after.text),
+            changeText(KTCatalogueText::tr(row.what), before.text, after.text),
             classification.written(before.value), classification.written(after.value));
         difference.olderPart = {KTElementKind::Article, 0, row.attribute};
         difference.newerPart = {KTElementKind::Article, 0, row.attribute};
@@ -97,16 +108,16 @@ void compareClassifications(KTDifferenceList *list)
 QString priceText(const KTPriceClass &priceClass)
 {
     if (priceClass.isEmpty())
-        return QStringLiteral("none");
+        return KTCatalogueText::tr("none");
     const QString text = KTCheckText::quoted(priceClass.toString());
-    return priceClass.isFree() ? QStringLiteral("%1 (free)").arg(text) : text;
+    return priceClass.isFree() ? KTCatalogueText::tr("%1 (free)").arg(text) : text;
 }
 
 QString groupText(KTShippingGroupId group)
 {
     if (!group.isValid())
-        return QStringLiteral("none");
-    return group.isCombinedTransfer() ? QStringLiteral("%1 (combined transfer)").arg(group.toString())
+        return KTCatalogueText::tr("none");
+    return group.isCombinedTransfer() ? KTCatalogueText::tr("%1 (combined transfer)").arg(group.toString())
                                       : group.toString();
 }
 
@@ -117,7 +128,7 @@ void compareProduct(KTDifferenceList *list)
     if (older.priceClass() != newer.priceClass()) {
         KTDifference &difference
             = list->add(Rule::PriceClassChanged, QStringLiteral("priceClass"),
-                        QStringLiteral("the price class is %1, was %2")
+                        KTCatalogueText::tr("the price class is %1, was %2")
                             .arg(priceText(newer.priceClass()), priceText(older.priceClass())),
                         older.priceClass().toString(), newer.priceClass().toString());
         difference.olderPart = {KTElementKind::Article, 0, KTAttributeId::ArticlePriceClass};
@@ -126,7 +137,7 @@ void compareProduct(KTDifferenceList *list)
     if (older.shippingGroup() != newer.shippingGroup()) {
         KTDifference &difference
             = list->add(Rule::ShippingGroupChanged, QStringLiteral("shippingGroup"),
-                        QStringLiteral("the shipping group is %1, was %2")
+                        KTCatalogueText::tr("the shipping group is %1, was %2")
                             .arg(groupText(newer.shippingGroup()), groupText(older.shippingGroup())),
                         groupText(older.shippingGroup()), groupText(newer.shippingGroup()));
         difference.olderPart = {KTElementKind::Article, 0, KTAttributeId::ArticleShippingGroup};
@@ -135,11 +146,12 @@ void compareProduct(KTDifferenceList *list)
     // Equality of product types ignores letter case where it can, order texts do not.
     if (older.productType().orderTxtName() != newer.productType().orderTxtName())
         addAboutArticle(list, Rule::ProductTypeChanged, QStringLiteral("productType"),
-                        QStringLiteral("the product type"), older.productType().orderTxtName(),
+                        KTCatalogueText::tr("the product type"), older.productType().orderTxtName(),
                         newer.productType().orderTxtName(), KTAttributeId::ArticleProductName);
     if (older.name() != newer.name())
-        addAboutArticle(list, Rule::ArticleNameChanged, QStringLiteral("article"), QStringLiteral("the name"),
-                        older.name(), newer.name(), KTAttributeId::ArticleName);
+        addAboutArticle(list, Rule::ArticleNameChanged, QStringLiteral("article"),
+                        KTCatalogueText::tr("the name"), older.name(), newer.name(),
+                        KTAttributeId::ArticleName);
 }
 
 QString nameOrNumber(const KTArticle &article)
@@ -169,13 +181,13 @@ QVector<KTDifference> KTArticleComparison::differences(const KTArticle &older, c
 KTDifference KTArticleComparison::removal(const KTArticle &older)
 {
     KTDifferenceList list(older, older);
-    return list.add(Rule::ArticleRemoved, QStringLiteral("article"), QStringLiteral("the article is gone"),
-                    nameOrNumber(older), QString());
+    return list.add(Rule::ArticleRemoved, QStringLiteral("article"),
+                    KTCatalogueText::tr("the article is gone"), nameOrNumber(older), QString());
 }
 
 KTDifference KTArticleComparison::addition(const KTArticle &newer)
 {
     KTDifferenceList list(newer, newer);
-    return list.add(Rule::ArticleAdded, QStringLiteral("article"), QStringLiteral("the article is new"),
+    return list.add(Rule::ArticleAdded, QStringLiteral("article"), KTCatalogueText::tr("the article is new"),
                     QString(), nameOrNumber(newer));
 }

@@ -1,6 +1,7 @@
 #include "KTArticleDescription.h"
 
 #include "KTArticle.h"
+#include "KTCatalogueText.h"
 #include "KTMillimeterText.h"
 #include "KTVariantsText.h"
 
@@ -73,14 +74,15 @@ Section articleSection(const KTArticle &article)
 {
     const Row row {
         QStringLiteral("article"),
-        QStringLiteral("article"),
+        KTCatalogueText::tr("article"),
         article.articleId().toString(),
         article.name(),
         {{QStringLiteral("id"), article.articleId().id()}, {QStringLiteral("name"), article.name()}}
     };
     Section section {QStringLiteral("article"), QString(), Shape::Members, {row}};
     if (!article.articleId().isValid())
-        section.rows.append({QString(), QStringLiteral("has no valid number"), QString(), QString(), {}});
+        section.rows.append(
+            {QString(), KTCatalogueText::tr("has no valid number"), QString(), QString(), {}});
     return section;
 }
 
@@ -109,10 +111,10 @@ Section classificationSection(const KTArticle &article)
         section.rows[index].facts.append({QStringLiteral("readAs"), readAs});
         for (const QString &keyword : unknown) {
             const QString word
-                = readAs.isEmpty() ? QStringLiteral("nothing") : QStringLiteral("'%1'").arg(readAs);
+                = readAs.isEmpty() ? KTCatalogueText::tr("nothing") : QStringLiteral("'%1'").arg(readAs);
             section.rows.append({QString(),
                                  QString(),
-                                 QStringLiteral("unknown keyword '%1', read as %2").arg(keyword, word),
+                                 KTCatalogueText::tr("unknown keyword '%1', read as %2").arg(keyword, word),
                                  QString(),
                                  {}});
         }
@@ -125,9 +127,9 @@ Section productSection(const KTArticle &article)
     const KTProductType productType = article.productType();
     QStringList kinds;
     if (productType.isCalendar())
-        kinds.append(QStringLiteral("calendar"));
+        kinds.append(KTCatalogueText::tr("calendar"));
     if (productType.isAgenda())
-        kinds.append(QStringLiteral("agenda"));
+        kinds.append(KTCatalogueText::tr("agenda"));
     const KTPriceClass priceClass = article.priceClass();
     const KTShippingGroupId group = article.shippingGroup();
     return {
@@ -136,21 +138,21 @@ Section productSection(const KTArticle &article)
         Shape::Members,
         {
                    {QStringLiteral("productType"),
-             QStringLiteral("product type"),
+             KTCatalogueText::tr("product type"),
              productType.orderTxtName(),
              kinds.join(COMMA),
              {{QStringLiteral("productType"), productType.orderTxtName()},
               {QStringLiteral("calendar"), productType.isCalendar()},
               {QStringLiteral("agenda"), productType.isAgenda()}}},
                    {QStringLiteral("priceClass"),
-             QStringLiteral("price class"),
+             KTCatalogueText::tr("price class"),
              priceClass.toString(),
-             priceClass.isFree() ? QStringLiteral("free") : QString(),
+             priceClass.isFree() ? KTCatalogueText::tr("free") : QString(),
              {{QStringLiteral("priceClass"), priceClass.toString()}}},
                    {QStringLiteral("shippingGroup"),
-             QStringLiteral("shipping group"),
-             group.isValid() ? group.toString() : QStringLiteral("none"),
-             group.isCombinedTransfer() ? QStringLiteral("combined transfer") : QString(),
+             KTCatalogueText::tr("shipping group"),
+             group.isValid() ? group.toString() : KTCatalogueText::tr("none"),
+             group.isCombinedTransfer() ? KTCatalogueText::tr("combined transfer") : QString(),
              {{QStringLiteral("shippingGroup"), group.id()}}},
                    }
     };
@@ -158,17 +160,17 @@ Section productSection(const KTArticle &article)
 
 QString pageCountText(const KTPageCountOrganization &counts)
 {
-    QString text
-        = QStringLiteral("%1 to %2, step %3: %4 %5")
-              .arg(counts.minPages())
-              .arg(counts.maxPages())
-              .arg(counts.pageIncrement())
-              .arg(counts.numberOfPackages())
-              .arg(counts.numberOfPackages() == 1 ? QStringLiteral("choice") : QStringLiteral("choices"));
+    QString text = KTCatalogueText::tr("%1 to %2, step %3: %4 %5")
+                       .arg(counts.minPages())
+                       .arg(counts.maxPages())
+                       .arg(counts.pageIncrement())
+                       .arg(counts.numberOfPackages())
+                       .arg(counts.numberOfPackages() == 1 ? KTCatalogueText::tr("choice")
+                                                           : KTCatalogueText::tr("choices"));
     if (!counts.isValid())
-        text += QStringLiteral(" (not valid)");
+        text += KTCatalogueText::tr(" (not valid)");
     else if (!counts.isConsistent())
-        text += QStringLiteral(" (the last step is not complete)");
+        text += KTCatalogueText::tr(" (the last step is not complete)");
     return text;
 }
 
@@ -180,7 +182,7 @@ Section pageCountSection(const KTArticle &article, const QList<int> &wishes)
                      QString(),
                      Shape::Object,
                      {{id,
-                       QStringLiteral("page counts"),
+                       KTCatalogueText::tr("page counts"),
                        pageCountText(counts),
                        QString(),
                        {{QStringLiteral("minimum"), counts.minPages()},
@@ -192,7 +194,7 @@ Section pageCountSection(const KTArticle &article, const QList<int> &wishes)
     for (const int wish : wishes) {
         section.rows.append({QString(),
                              QString(),
-                             QStringLiteral("%1 pages become %2").arg(wish).arg(counts.constrain(wish)),
+                             KTCatalogueText::tr("%1 pages become %2").arg(wish).arg(counts.constrain(wish)),
                              QString(),
                              {}});
     }
@@ -216,14 +218,14 @@ Section sampleSection(const KTArticle &article, const QList<int> &wishes)
         };
         if (article.hasSpine()) {
             row.facts.append({QStringLiteral("spineMillimeters"), spineMillimeters(article, becomes)});
-            widths.append(QStringLiteral("%1 mm at %2 pages")
+            widths.append(KTCatalogueText::tr("%1 mm at %2 pages")
                               .arg(spineMillimeters(article, wishes.isEmpty() ? wish : becomes), 0, 'f', 1)
                               .arg(wishes.isEmpty() ? wish : becomes));
         }
         section.rows.append(row);
     }
     if (article.hasSpine()) {
-        section.rows.first().label = QStringLiteral("spine");
+        section.rows.first().label = KTCatalogueText::tr("spine");
         section.rows.first().value = widths.join(COMMA);
     }
     return section;
@@ -239,8 +241,8 @@ Section pageSection(const KTArticle &article)
         const QSize slipcase = page.size.usableSlipcaseCoverSize();
         Row row {
             numbering.unique(QStringLiteral("pages.%1.%2").arg(type, alignment)),
-            QStringLiteral("page size"),
-            QStringLiteral("%1  %2, with bleed %3")
+            KTCatalogueText::tr("page size"),
+            KTCatalogueText::tr("%1  %2, with bleed %3")
                 .arg(type, KTMillimeterText::text(page.size.usableSize()),
                      KTMillimeterText::text(page.size.totalSize())),
             QString(),
@@ -253,11 +255,12 @@ Section pageSection(const KTArticle &article)
             row.facts.append({QStringLiteral("slipcaseMillimeters"), sizeFact(slipcase)});
         section.rows.append(row);
         if (slipcase.isValid()) {
-            section.rows.append({QString(),
-                                 QString(),
-                                 QStringLiteral("slipcase cover %1").arg(KTMillimeterText::text(slipcase)),
-                                 QString(),
-                                 {}});
+            section.rows.append(
+                {QString(),
+                 QString(),
+                 KTCatalogueText::tr("slipcase cover %1").arg(KTMillimeterText::text(slipcase)),
+                 QString(),
+                 {}});
         }
     }
     return section;
@@ -271,8 +274,8 @@ Section barcodeSection(const KTArticle &article)
         const QRect rect = barcode.rect();
         section.rows.append({
             numbering.unique(QStringLiteral("barcodes.%1").arg(barcode.pageNr())),
-            QStringLiteral("barcode"),
-            QStringLiteral("page %1: %2 at %3, %4 mm")
+            KTCatalogueText::tr("barcode"),
+            KTCatalogueText::tr("page %1: %2 at %3, %4 mm")
                 .arg(QString::number(barcode.pageNr()), KTMillimeterText::text(rect.size()),
                      KTMillimeterText::text(rect.x()), KTMillimeterText::text(rect.y())),
             barcode.imageName(),
@@ -294,14 +297,14 @@ QString colorName(const QColor &color)
 
 Section optionSection(const KTArticle &article)
 {
-    Section section {QStringLiteral("options"), QStringLiteral("options"), Shape::List, {}};
+    Section section {QStringLiteral("options"), KTCatalogueText::tr("options"), Shape::List, {}};
     Numbering numbering;
     for (const KTConfiguredArticleVariant &option : article.options()) {
         QStringList flags;
         if (option.isDefault())
-            flags.append(QStringLiteral("preselected"));
+            flags.append(KTCatalogueText::tr("preselected"));
         if (option.isNotAccountable())
-            flags.append(QStringLiteral("not charged"));
+            flags.append(KTCatalogueText::tr("not charged"));
         Row row {
             numbering.unique(QStringLiteral("options.%1.%2").arg(option.key(), option.value())),
             option.value(),
@@ -332,8 +335,8 @@ Section choiceSection(const KTArticle &article)
     Section section {id, QString(), Shape::Object, {}};
     const KTArticleVariants choice = article.options().defaultVariants();
     if (choice.isValid())
-        section.rows.append({id, QStringLiteral("default choice"), KTVariantsText::mcf(choice), QString(),
-                             variantsFacts(choice)});
+        section.rows.append({id, KTCatalogueText::tr("default choice"), KTVariantsText::mcf(choice),
+                             QString(), variantsFacts(choice)});
     return section;
 }
 
@@ -350,7 +353,7 @@ Section boxStyleSection(const KTArticle &article)
     for (const KTArticleVariants &style : options.possibleBoxStyles()) {
         const QString text = KTVariantsText::mcf(style);
         section.rows.append({numbering.unique(QStringLiteral("boxStyles.%1").arg(text)),
-                             QStringLiteral("box style"), text, QString(), variantsFacts(style)});
+                             KTCatalogueText::tr("box style"), text, QString(), variantsFacts(style)});
     }
     return section;
 }

@@ -1,5 +1,6 @@
 #include "KTAttributeChecker.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 
 #include <KTDistance.h>
@@ -50,26 +51,26 @@ QString numberFault(const QString &text, KTAttributeType type)
     bool ok = false;
     const double number = text.toDouble(&ok);
     if (std::isnan(number) || (ok && std::isinf(number)))
-        return QStringLiteral("is not finite");
+        return KTCatalogueText::tr("is not finite");
     if (std::isinf(number))
-        return QStringLiteral("is out of range");
+        return KTCatalogueText::tr("is out of range");
     // A number that is finite itself may not be so in layout units.
     if (type == KTAttributeType::Length)
-        return ok ? QStringLiteral("is out of range") : QStringLiteral("is no number");
+        return ok ? KTCatalogueText::tr("is out of range") : KTCatalogueText::tr("is no number");
     return ok && number == std::floor(number) && std::abs(number) > std::numeric_limits<int>::max()
-        ? QStringLiteral("is out of range")
-        : QStringLiteral("is no whole number");
+        ? KTCatalogueText::tr("is out of range")
+        : KTCatalogueText::tr("is no whole number");
 }
 
 void reportNumber(KTElementCursor *cursor, int attribute, const KTAttributeRow &row,
                   const QString &defaultText)
 {
     const QString text = cursor->valueOf(attribute).toString();
-    QString message = QStringLiteral("%1 %2; the application takes %3")
+    QString message = KTCatalogueText::tr("%1 %2; the application takes %3")
                           .arg(quoted(text), numberFault(text, row.type), defaultText);
     const QString withPoint = QString(text).replace(QLatin1Char(','), QLatin1Char('.'));
     if (row.type == KTAttributeType::Length && withPoint != text && KTXMLParser::parseDouble(withPoint))
-        message += QStringLiteral("; did you mean '%1'?").arg(withPoint);
+        message += KTCatalogueText::tr("; did you mean '%1'?").arg(withPoint);
     cursor->report(row.id == KTAttributeId::ArticleShippingGroup ? KTRule::ShippingGroup
                                                                  : KTRule::UnreadableNumber,
                    message, attribute);
@@ -82,11 +83,12 @@ void reportUnknown(KTElementCursor *cursor, int attribute)
     if (std::any_of(std::begin(XML_PREFIXES), std::end(XML_PREFIXES),
                     [&name](QLatin1String prefix) { return name.startsWith(prefix); }))
         return;
-    cursor->report(KTRule::UnknownAttribute,
-                   QStringLiteral("nothing reads %1 of '%2'; the application behaves as if it were not there")
-                           .arg(quoted(name), KTCatalogueFormat::elementName(cursor->kind()))
-                       + suggestion(name, KTCatalogueFormat::attributeNames(cursor->kind())),
-                   attribute);
+    cursor->report(
+        KTRule::UnknownAttribute,
+        KTCatalogueText::tr("nothing reads %1 of '%2'; the application behaves as if it were not there")
+                .arg(quoted(name), KTCatalogueFormat::elementName(cursor->kind()))
+            + suggestion(name, KTCatalogueFormat::attributeNames(cursor->kind())),
+        attribute);
 }
 
 /** What the classification makes of entries that are no keywords; empty when there are none. */
@@ -100,15 +102,16 @@ QString keywordMessage(const KTAttributeRow &row, const QString &text)
     if (unknown.isEmpty())
         return QString();
     const QString &word = unknown.constFirst();
-    QString message = word.isEmpty() ? QStringLiteral("an empty entry in %1").arg(quoted(text))
-                                     : QStringLiteral("%1 is no keyword of %2").arg(quoted(word), row.name);
+    QString message = word.isEmpty()
+        ? KTCatalogueText::tr("an empty entry in %1").arg(quoted(text))
+        : KTCatalogueText::tr("%1 is no keyword of %2").arg(quoted(word), row.name);
     if (unknown.size() > 1)
-        message += unknown.size() == 2 ? QStringLiteral(" (nor is 1 more)")
-                                       : QStringLiteral(" (nor are %1 more)").arg(unknown.size() - 1);
+        message += unknown.size() == 2 ? KTCatalogueText::tr(" (nor is 1 more)")
+                                       : KTCatalogueText::tr(" (nor are %1 more)").arg(unknown.size() - 1);
     const QString readAs = classification.unknownReadAs();
     message += readAs.isEmpty()
-        ? QStringLiteral("; the application reads nothing from it")
-        : QStringLiteral("; the application reads it as the default, '%1'").arg(readAs);
+        ? KTCatalogueText::tr("; the application reads nothing from it")
+        : KTCatalogueText::tr("; the application reads it as the default, '%1'").arg(readAs);
     return message + suggestion(word, classification.readableKeywords());
 }
 
@@ -138,7 +141,7 @@ void KTAttributeChecker::checkRead(KTElementCursor *cursor, int attribute, const
         if (!isPlainInteger(text) && !KTXMLParser::parseInt(text)) {
             const bool isPageCount = std::holds_alternative<std::monostate>(row.defaultValue);
             reportNumber(cursor, attribute, row,
-                         isPageCount ? QStringLiteral("the default: ") + KTCheckText::text(pageCounts)
+                         isPageCount ? KTCatalogueText::tr("the default: ") + KTCheckText::text(pageCounts)
                                      : defaultOf(row));
         }
         break;
@@ -149,26 +152,26 @@ void KTAttributeChecker::checkRead(KTElementCursor *cursor, int attribute, const
     case KTAttributeType::Boolean:
         if (!KTXMLParser::parseBool(text)) {
             cursor->report(KTRule::UnreadableBoolean,
-                           QStringLiteral("%1 is neither true nor false; the application takes %2")
+                           KTCatalogueText::tr("%1 is neither true nor false; the application takes %2")
                                .arg(quoted(text.toString()), defaultOf(row)),
                            attribute);
         }
         break;
     case KTAttributeType::Unit:
         if (!KTXMLParser::readUnit(cursor->element()).hasExactlyOneBit()) {
-            cursor->report(
-                KTRule::UnknownUnit,
-                QStringLiteral("%1 is no unit; the application takes the numbers as layout units of 0.1 mm")
-                        .arg(quoted(text.toString()))
-                    + suggestion(text.toString(),
-                                 KTClassification::of(row.classification).readableKeywords()),
-                attribute);
+            cursor->report(KTRule::UnknownUnit,
+                           KTCatalogueText::tr(
+                               "%1 is no unit; the application takes the numbers as layout units of 0.1 mm")
+                                   .arg(quoted(text.toString()))
+                               + suggestion(text.toString(),
+                                            KTClassification::of(row.classification).readableKeywords()),
+                           attribute);
         }
         break;
     case KTAttributeType::Color:
         if (!text.isEmpty() && !QColor::isValidColor(shared(text))) {
             cursor->report(KTRule::UnknownColor,
-                           QStringLiteral("%1 is no colour; the application takes %2")
+                           KTCatalogueText::tr("%1 is no colour; the application takes %2")
                                    .arg(quoted(text.toString()), defaultOf(row))
                                + suggestion(text.toString(), QColor::colorNames()),
                            attribute);

@@ -1,5 +1,6 @@
 #include "KTBarcodeChecker.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 
 #include <KTDirectoryConfig.h>
@@ -26,16 +27,16 @@ void KTBarcodeChecker::check(KTElementCursor *cursor)
         = KTBarcodeDefinition::createFromProductsXML(cursor->element(), cursor->unit());
     if (barcode.imageName().isEmpty()) {
         cursor->report(KTRule::BarcodeDropped,
-                       QStringLiteral("the barcode has an empty image name; the application skips it"),
+                       KTCatalogueText::tr("the barcode has an empty image name; the application skips it"),
                        cursor->attribute(Id::BarcodeImage));
         return;
     }
     if (!barcode.isValid()) {
-        cursor->report(
-            KTRule::BarcodeDropped,
-            QStringLiteral("the barcode is smaller than one layout unit (0.1 mm); the application skips it"),
-            cursor->firstOf({barcode.rect().width() < 1 ? Id::BarcodeWidth : Id::BarcodeHeight,
-                             Id::BarcodeWidth, Id::BarcodeHeight}));
+        cursor->report(KTRule::BarcodeDropped,
+                       KTCatalogueText::tr(
+                           "the barcode is smaller than one layout unit (0.1 mm); the application skips it"),
+                       cursor->firstOf({barcode.rect().width() < 1 ? Id::BarcodeWidth : Id::BarcodeHeight,
+                                        Id::BarcodeWidth, Id::BarcodeHeight}));
         return;
     }
     // Page and image do not count: the library finds a barcode by its rectangle.
@@ -44,19 +45,19 @@ void KTBarcodeChecker::check(KTElementCursor *cursor)
     if (earlier == myLines.constEnd()) {
         myLines.insert(place, cursor->line());
     } else {
-        cursor->report(
-            KTRule::BarcodeSamePlace,
-            QStringLiteral("the barcode in line %1 has the same rectangle; the application, which finds a "
+        cursor->report(KTRule::BarcodeSamePlace,
+                       KTCatalogueText::tr(
+                           "the barcode in line %1 has the same rectangle; the application, which finds a "
                            "barcode by its rectangle, always takes that one")
-                .arg(*earlier));
+                           .arg(*earlier));
     }
     if (!hasImage(barcode)) {
-        cursor->report(
-            KTRule::BarcodeImage,
-            QStringLiteral("%1 is no picture below 'icons/picshelf' of the resources; the application shows "
+        cursor->report(KTRule::BarcodeImage,
+                       KTCatalogueText::tr(
+                           "%1 is no picture below 'icons/picshelf' of the resources; the application shows "
                            "no barcode")
-                .arg(quoted(barcode.imageName())),
-            cursor->attribute(Id::BarcodeImage));
+                           .arg(quoted(barcode.imageName())),
+                       cursor->attribute(Id::BarcodeImage));
     }
 }
 

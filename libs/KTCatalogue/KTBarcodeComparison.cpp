@@ -1,5 +1,6 @@
 #include "KTBarcodeComparison.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTMillimeterText.h"
 
@@ -21,7 +22,7 @@ QString cornerText(const QRect &rect)
 /** "30.0 x 10.0 mm at 12.0, 258.0 mm on page 0" */
 QString placeText(const KTBarcodeDefinition &barcode)
 {
-    return QStringLiteral("%1 at %2 on page %3")
+    return KTCatalogueText::tr("%1 at %2 on page %3")
         .arg(KTMillimeterText::text(barcode.rect().size()), cornerText(barcode.rect()),
              QString::number(barcode.pageNr()));
 }
@@ -31,18 +32,19 @@ QString moveText(const KTBarcodeDefinition &before, const KTBarcodeDefinition &a
 {
     QStringList changes;
     if (before.pageNr() != after.pageNr())
-        changes.append(QStringLiteral("on page %1, was on page %2").arg(after.pageNr()).arg(before.pageNr()));
+        changes.append(
+            KTCatalogueText::tr("on page %1, was on page %2").arg(after.pageNr()).arg(before.pageNr()));
     if (before.rect().topLeft() != after.rect().topLeft())
         changes.append(
-            QStringLiteral("at %1, was at %2").arg(cornerText(after.rect()), cornerText(before.rect())));
+            KTCatalogueText::tr("at %1, was at %2").arg(cornerText(after.rect()), cornerText(before.rect())));
     if (before.rect().size() != after.rect().size())
-        changes.append(QStringLiteral("%1, was %2")
+        changes.append(KTCatalogueText::tr("%1, was %2")
                            .arg(KTMillimeterText::text(after.rect().size()),
                                 KTMillimeterText::text(before.rect().size())));
     const QString barcode = before.pageNr() == after.pageNr()
-        ? QStringLiteral("the barcode on page %1").arg(after.pageNr())
-        : QStringLiteral("the barcode");
-    return QStringLiteral("%1 is %2").arg(barcode, changes.join(QStringLiteral("; ")));
+        ? KTCatalogueText::tr("the barcode on page %1").arg(after.pageNr())
+        : KTCatalogueText::tr("the barcode");
+    return KTCatalogueText::tr("%1 is %2").arg(barcode, changes.join(QStringLiteral("; ")));
 }
 
 QString rectKey(const KTBarcodeDefinition &barcode)
@@ -80,12 +82,13 @@ void KTBarcodeComparison::compare()
             addChanges(older, newer);
         else
             add(Rule::BarcodeRemoved, older, newer,
-                QStringLiteral("a barcode is gone, was %1").arg(placeText(myOlder.at(older))), std::nullopt);
+                KTCatalogueText::tr("a barcode is gone, was %1").arg(placeText(myOlder.at(older))),
+                std::nullopt);
     }
     for (int newer = 0; newer < myNewer.size(); ++newer) {
         if (myOlderOf.at(newer) < 0)
             add(Rule::BarcodeAdded, -1, newer,
-                QStringLiteral("a barcode is new, %1").arg(placeText(myNewer.at(newer))), std::nullopt);
+                KTCatalogueText::tr("a barcode is new, %1").arg(placeText(myNewer.at(newer))), std::nullopt);
     }
 }
 
@@ -120,7 +123,7 @@ void KTBarcodeComparison::addChanges(int older, int newer)
     if (before.imageName() != after.imageName()) {
         KTDifference &difference
             = add(Rule::BarcodeImageChanged, older, newer,
-                  QStringLiteral("%1 stands for the barcode on page %2, was %3")
+                  KTCatalogueText::tr("%1 stands for the barcode on page %2, was %3")
                       .arg(KTCheckText::quoted(after.imageName()), QString::number(after.pageNr()),
                            KTCheckText::quoted(before.imageName())),
                   KTAttributeId::BarcodeImage);

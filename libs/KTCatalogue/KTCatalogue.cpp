@@ -1,5 +1,6 @@
 #include "KTCatalogue.h"
 
+#include "KTCatalogueText.h"
 #include "KTDeviceSection.h"
 
 #include <QFileInfo>
@@ -8,9 +9,9 @@ KTCatalogue::KTCatalogue(const QString &fileName)
     : myFile(fileName)
 {
     if (!myFile.open(QIODevice::ReadOnly)) {
-        myError
-            = {KTCatalogueErrorKind::Unreadable,
-               QStringLiteral("the file cannot be opened: %1").arg(myFile.errorString()), KTFilePosition()};
+        myError = {KTCatalogueErrorKind::Unreadable,
+                   KTCatalogueText::tr("the file cannot be opened: %1").arg(myFile.errorString()),
+                   KTFilePosition()};
         return;
     }
     mySize = myFile.size();
@@ -55,8 +56,8 @@ bool KTCatalogue::read(int articleId, KTCatalogueArticle *article)
             return true;
         }
     }
-    myError = {KTCatalogueErrorKind::Changed, QStringLiteral("the file was changed after it had been opened"),
-               found->position};
+    myError = {KTCatalogueErrorKind::Changed,
+               KTCatalogueText::tr("the file was changed after it had been opened"), found->position};
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "KTCatalogueChecker.h"
 
 #include "KTCatalogueCheckerImpl.h"
+#include "KTCatalogueText.h"
 
 #include <utility>
 
@@ -43,7 +44,7 @@ bool KTCatalogueChecker::check(const QString &name, QIODevice *device)
 void KTCatalogueChecker::reportUnreadable(const QString &name, const QString &words)
 {
     myImpl->reportFile(KTRule::UnreadableFile, name, NO_POSITION,
-                       QStringLiteral("%1; the application has no articles from it").arg(words));
+                       KTCatalogueText::tr("%1; the application has no articles from it").arg(words));
 }
 
 int KTCatalogueCheckerImpl::FirstLines::knownLine(int number, int line)
@@ -80,7 +81,7 @@ bool KTCatalogueCheckerImpl::check(const QString &name, QIODevice *device)
         case Item::Error: {
             const KTCatalogueError error = reader.error();
             reportFile(ruleOf(error.kind), name, error.position,
-                       error.text + QStringLiteral("; the application refuses the file"));
+                       error.text + KTCatalogueText::tr("; the application refuses the file"));
             return false;
         }
         case Item::Root:
@@ -111,8 +112,8 @@ void KTCatalogueCheckerImpl::checkNumber(const KTCatalogueArticle &article, Firs
     findings->prepend(
         {KTRule::DuplicateId, KTSeverity::Error, QString(), article.tagRange(0), number,
          article.root().tagName(), QString(),
-         QStringLiteral("the article in line %1 has the number %2 as well; the application finds "
-                        "that one, and this one never")
+         KTCatalogueText::tr("the article in line %1 has the number %2 as well; the application finds "
+                             "that one, and this one never")
              .arg(known)
              .arg(number)});
 }

@@ -1,6 +1,7 @@
 #include "KTCatalogueIndex.h"
 
 #include "KTArticleDigest.h"
+#include "KTCatalogueText.h"
 #include "KTDeviceSection.h"
 
 #include <algorithm>
@@ -78,8 +79,8 @@ bool KTCatalogueIndex::read(int place, KTCatalogueArticle *article)
             return true;
         }
     }
-    myError
-        = {KTCatalogueErrorKind::Changed, QStringLiteral("the file was changed while it was read"), position};
+    myError = {KTCatalogueErrorKind::Changed, KTCatalogueText::tr("the file was changed while it was read"),
+               position};
     return false;
 }
 

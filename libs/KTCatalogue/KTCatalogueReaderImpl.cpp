@@ -1,5 +1,6 @@
 #include "KTCatalogueReaderImpl.h"
 
+#include "KTCatalogueText.h"
 #include "KTStartTag.h"
 #include "KTXMLError.h"
 
@@ -26,13 +27,13 @@ constexpr int ATTRIBUTE_STRIDE = 2;
 
 QString limitText(const QString &what)
 {
-    return QStringLiteral("limit exceeded: ") + what;
+    return KTCatalogueText::tr("limit exceeded: ") + what;
 }
 
 QString valueLimit()
 {
     return limitText(
-        QStringLiteral("a value of more than %1 KiB").arg(KTCatalogueReader::MAX_VALUE_LENGTH / 1024));
+        KTCatalogueText::tr("a value of more than %1 KiB").arg(KTCatalogueReader::MAX_VALUE_LENGTH / 1024));
 }
 
 /** True when the value that is read is not the one that is written. */
@@ -196,7 +197,8 @@ void KTCatalogueReaderImpl::feed()
     const bool isLast = length == 0 || (length < 0 && myDevice->atEnd());
     if (length < 0 && !isLast) {
         advanceTo(KTArithmetic::sizeOf(myWindow));
-        fail(Kind::Unreadable, QStringLiteral("the file cannot be read: %1").arg(myDevice->errorString()),
+        fail(Kind::Unreadable,
+             KTCatalogueText::tr("the file cannot be read: %1").arg(myDevice->errorString()),
              myTracker.position());
         return;
     }
@@ -240,7 +242,7 @@ void KTCatalogueReaderImpl::parse(const QByteArray &text, bool isLast)
     const bool isParsed = XML_Parse(myParser, bytes(begin), unseen, isLast || isBroken) == XML_STATUS_OK;
     if (isBroken && (isParsed || KTXMLError::isAboutEnd(XML_GetErrorCode(myParser)))) {
         fail(Kind::NotWellFormed,
-             hasNul ? QStringLiteral("a NUL character; the file is no text") : myDecoder.error(),
+             hasNul ? KTCatalogueText::tr("a NUL character; the file is no text") : myDecoder.error(),
              positionOf(KTArithmetic::sizeOf(myWindow)));
     } else if (!isParsed) {
         failAsParser(isLast || isBroken);
@@ -275,7 +277,7 @@ void KTCatalogueReaderImpl::checkPending()
 {
     if (myWindow.size() > KTCatalogueReader::MAX_MARKUP_LENGTH) {
         fail(Kind::LimitExceeded,
-             limitText(QStringLiteral("a tag, comment or instruction of more than %1 MiB")
+             limitText(KTCatalogueText::tr("a tag, comment or instruction of more than %1 MiB")
                            .arg(KTCatalogueReader::MAX_MARKUP_LENGTH / (1024 * 1024))),
              myTracker.position());
         return;
@@ -297,7 +299,7 @@ void KTCatalogueReaderImpl::checkLimits(int begin, int end)
 void KTCatalogueReaderImpl::refuseDocumentType()
 {
     const auto begin = static_cast<int>(myWindow.indexOf("<!DOCTYPE", place(myTrackedOffset)));
-    fail(Kind::LimitExceeded, limitText(QStringLiteral("a catalogue has no document type declaration")),
+    fail(Kind::LimitExceeded, limitText(KTCatalogueText::tr("a catalogue has no document type declaration")),
          positionOf(std::max(begin, 0)));
 }
 
@@ -316,12 +318,13 @@ void KTCatalogueReaderImpl::startElement(const char **attributes)
     ++myDepth;
     if (myDepth == ROOT_DEPTH && elementName != CATALOGUE_ELEMENT) {
         fail(Kind::NotWellFormed,
-             QStringLiteral("the root element is '%1', not '%2'")
+             KTCatalogueText::tr("the root element is '%1', not '%2'")
                  .arg(openElement(), QLatin1String(CATALOGUE_ELEMENT.data())),
              position);
     } else if (myDepth > KTCatalogueReader::MAX_DEPTH) {
         fail(Kind::LimitExceeded,
-             limitText(QStringLiteral("more than %1 levels of elements").arg(KTCatalogueReader::MAX_DEPTH)),
+             limitText(
+                 KTCatalogueText::tr("more than %1 levels of elements").arg(KTCatalogueReader::MAX_DEPTH)),
              position);
     } else if (nameLength > KTCatalogueReader::MAX_VALUE_LENGTH) {
         fail(Kind::LimitExceeded, valueLimit(), position);
@@ -504,7 +507,7 @@ bool KTCatalogueReaderImpl::isWithinLimits(const KTStartTag::Attribute &attribut
         return false;
     };
     if (number > KTCatalogueReader::MAX_ATTRIBUTES) {
-        return fails(limitText(QStringLiteral("more than %1 attributes in one element")
+        return fails(limitText(KTCatalogueText::tr("more than %1 attributes in one element")
                                    .arg(KTCatalogueReader::MAX_ATTRIBUTES)),
                      attribute.nameBegin);
     }

@@ -1,5 +1,6 @@
 #include "KTCheckText.h"
 
+#include "KTCatalogueText.h"
 #include "KTNearestWord.h"
 
 #include <KTArithmetic.h>
@@ -23,7 +24,7 @@ QString KTCheckText::suggestion(const QString &word, const QStringList &candidat
     // A word that is changed as a whole was not meant.
     const QString nearest
         = KTNearestWord::find(word, candidates, std::clamp(KTArithmetic::sizeOf(word) - 1, 0, 2));
-    return nearest.isEmpty() ? QString() : QStringLiteral("; did you mean '%1'?").arg(nearest);
+    return nearest.isEmpty() ? QString() : KTCatalogueText::tr("; did you mean '%1'?").arg(nearest);
 }
 
 QString KTCheckText::defaultOf(const KTAttributeRow &row)
@@ -33,7 +34,7 @@ QString KTCheckText::defaultOf(const KTAttributeRow &row)
 
 QString KTCheckText::text(const KTPageCountOrganization &pageCounts)
 {
-    return QStringLiteral("%1 to %2, step %3")
+    return KTCatalogueText::tr("%1 to %2, step %3")
         .arg(pageCounts.minPages())
         .arg(pageCounts.maxPages())
         .arg(pageCounts.pageIncrement());

@@ -1,5 +1,6 @@
 #include "KTDifferenceList.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 
 KTDifference &KTDifferenceList::add(KTDifferenceRule rule, const QString &subject, const QString &message)
@@ -31,5 +32,5 @@ QString KTDifferenceList::listed(const QStringList &words)
     const QString text = first.join(QStringLiteral(", "));
     return words.size() <= MAX_WORDS
         ? text
-        : QStringLiteral("%1 and %2 more").arg(text, QString::number(words.size() - MAX_WORDS));
+        : KTCatalogueText::tr("%1 and %2 more").arg(text, QString::number(words.size() - MAX_WORDS));
 }

@@ -1,5 +1,7 @@
 #include "KTInputDecoder.h"
 
+#include "KTCatalogueText.h"
+
 #include <QRegularExpression>
 
 #include <cerrno>
@@ -101,8 +103,8 @@ int KTInputDecoder::begin(const QByteArray &head)
         return 0;
     }
     myError = declared.startsWith(QLatin1String("UTF-16"), Qt::CaseInsensitive)
-        ? QStringLiteral("the file says that it is in UTF-16, but it is not")
-        : QStringLiteral(
+        ? KTCatalogueText::tr("the file says that it is in UTF-16, but it is not")
+        : KTCatalogueText::tr(
               "the encoding '%1' is none of UTF-8, UTF-16, ISO-8859-1, ISO-8859-15 and windows-1252")
               .arg(declared);
     return 0;
@@ -122,7 +124,7 @@ void KTInputDecoder::open(const char *encoding, const QString &name, KTCharacter
     const iconv_t converter = iconv_open("UTF-8", encoding);
     // iconv has a value of its own for a failure.
     if (converter == reinterpret_cast<iconv_t>(-1)) // NOLINT(performance-no-int-to-ptr)
-        myError = QStringLiteral("this machine cannot read %1").arg(myEncoding);
+        myError = KTCatalogueText::tr("this machine cannot read %1").arg(myEncoding);
     else
         myConverter = converter;
 }
@@ -142,8 +144,8 @@ QByteArray KTInputDecoder::decode(const QByteArray &bytes, bool isLast)
     myRest = input.right(static_cast<int>(fromLeft));
     if (!isDone && (errno == EILSEQ || (errno == EINVAL && isLast))) {
         myError = errno == EINVAL
-            ? QStringLiteral("the file ends inside of a character of %1").arg(myEncoding)
-            : QStringLiteral("the byte 0x%1 is no character of %2")
+            ? KTCatalogueText::tr("the file ends inside of a character of %1").arg(myEncoding)
+            : KTCatalogueText::tr("the byte 0x%1 is no character of %2")
                   .arg(static_cast<uchar>(myRest.at(0)), 2, 16, QLatin1Char('0'))
                   .arg(myEncoding);
     }

@@ -1,5 +1,6 @@
 #include "KTOptionChecker.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTVariantsText.h"
 
@@ -39,11 +40,12 @@ void reportLoss(KTElementCursor *cursor, const QString &form, const QString &tex
                 const KTArticleVariants &readBack)
 {
     const QString result
-        = readBack.isValid() ? quoted(KTVariantsText::mcf(readBack)) : QStringLiteral("nothing");
-    cursor->report(KTRule::ReservedCharacter,
-                   QStringLiteral("the application writes the option as %1 in %2, which reads back as %3")
-                       .arg(quoted(text), form, result),
-                   cursor->attribute(hasSeparator(cursor->value(Id::FormKey)) ? Id::FormKey : Id::FormValue));
+        = readBack.isValid() ? quoted(KTVariantsText::mcf(readBack)) : KTCatalogueText::tr("nothing");
+    cursor->report(
+        KTRule::ReservedCharacter,
+        KTCatalogueText::tr("the application writes the option as %1 in %2, which reads back as %3")
+            .arg(quoted(text), form, result),
+        cursor->attribute(hasSeparator(cursor->value(Id::FormKey)) ? Id::FormKey : Id::FormValue));
 }
 
 /** Lets the library write the option and looks whether it can be read back. */
@@ -52,12 +54,12 @@ void checkCompound(KTElementCursor *cursor, const QString &key, const QString &v
     const KTArticleVariants option(key, value);
     const KTArticleVariants production = option.toXTCI();
     if (!production.isValid()) {
-        cursor->report(
-            KTRule::CompoundParts,
-            QStringLiteral("%1 and %2 have different numbers of parts; the order text and the production "
+        cursor->report(KTRule::CompoundParts,
+                       KTCatalogueText::tr(
+                           "%1 and %2 have different numbers of parts; the order text and the production "
                            "form leave the option out")
-                .arg(quoted(key), quoted(value)),
-            cursor->attribute(Id::FormValue));
+                           .arg(quoted(key), quoted(value)),
+                       cursor->attribute(Id::FormValue));
         return;
     }
     const QString mcf = option.toMCF();
@@ -69,7 +71,7 @@ void checkCompound(KTElementCursor *cursor, const QString &key, const QString &v
     const QString orderText = option.toOrderTxt();
     const KTArticleVariants fromOrderText = KTVariantsText::fromOrderText(orderText);
     if (fromOrderText != production)
-        reportLoss(cursor, QStringLiteral("the order text"), orderText, fromOrderText);
+        reportLoss(cursor, KTCatalogueText::tr("the order text"), orderText, fromOrderText);
 }
 
 } // namespace
@@ -86,18 +88,18 @@ void KTOptionChecker::check(KTElementCursor *cursor)
     const QStringView value = cursor->value(Id::FormValue);
     if (key.isEmpty() || value.isEmpty()) {
         cursor->report(KTRule::IncompleteOption,
-                       QStringLiteral("the option has no %1; the application skips it")
-                           .arg(key.isEmpty() ? QStringLiteral("key") : QStringLiteral("value")));
+                       KTCatalogueText::tr("the option has no %1; the application skips it")
+                           .arg(key.isEmpty() ? KTCatalogueText::tr("key") : KTCatalogueText::tr("value")));
         return;
     }
     const QPair<QStringView, QStringView> option(key, value);
     const auto earlier = myLines.constFind(option);
     if (earlier != myLines.constEnd()) {
-        cursor->report(
-            KTRule::DuplicateOption,
-            QStringLiteral("%1 with %2 stands in line %3 already; the application lists it again, but an "
+        cursor->report(KTRule::DuplicateOption,
+                       KTCatalogueText::tr(
+                           "%1 with %2 stands in line %3 already; the application lists it again, but an "
                            "order cannot tell the two")
-                .arg(quoted(key.toString()), quoted(value.toString()), QString::number(*earlier)));
+                           .arg(quoted(key.toString()), quoted(value.toString()), QString::number(*earlier)));
     } else {
         myLines.insert(option, cursor->line());
     }
@@ -127,7 +129,7 @@ void KTOptionChecker::end(KTElementCursor *cursor) const
         const QString key = it.key().toString();
         cursor->reportAt(
             it->element, KTRule::SeveralPreselected,
-            QStringLiteral("%1 options of %2 are preselected; the application takes the last one, %3")
+            KTCatalogueText::tr("%1 options of %2 are preselected; the application takes the last one, %3")
                 .arg(it->count)
                 .arg(quoted(key), quoted(winners.value(key, QString()))),
             it->attribute);

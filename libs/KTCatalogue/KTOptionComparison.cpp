@@ -1,5 +1,6 @@
 #include "KTOptionComparison.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTVariantsText.h"
 
@@ -23,12 +24,12 @@ QString named(const QString &word, const QString &name)
 /** "was none" or "was 'Rot'" */
 QString wasText(const QString &text)
 {
-    return text.isEmpty() ? QStringLiteral("was none") : QStringLiteral("was %1").arg(quoted(text));
+    return text.isEmpty() ? KTCatalogueText::tr("was none") : KTCatalogueText::tr("was %1").arg(quoted(text));
 }
 
 QString orNone(const QString &text)
 {
-    return text.isEmpty() ? QStringLiteral("none") : quoted(text);
+    return text.isEmpty() ? KTCatalogueText::tr("none") : quoted(text);
 }
 
 QString colorName(const QColor &color)
@@ -150,7 +151,7 @@ void KTOptionComparison::compareKeys()
         const QStringList values = myOlder.values(key);
         KTDifference &difference
             = myList->add(Rule::OptionKeyRemoved, keySubject(key),
-                          QStringLiteral("%1 is gone with all its options: %2")
+                          KTCatalogueText::tr("%1 is gone with all its options: %2")
                               .arg(named(key, myOlder.keyName(key)), KTDifferenceList::listed(values)),
                           KTDifferenceList::listed(values), QString());
         difference.olderPart = optionPart(myOlder.byKey.value(key).constFirst());
@@ -162,7 +163,7 @@ void KTOptionComparison::compareKeys()
         const QStringList values = myNewer.values(key);
         KTDifference &difference
             = myList->add(Rule::OptionKeyAdded, keySubject(key),
-                          QStringLiteral("%1 can be chosen: %2")
+                          KTCatalogueText::tr("%1 can be chosen: %2")
                               .arg(named(key, myNewer.keyName(key)), KTDifferenceList::listed(values)),
                           QString(), KTDifferenceList::listed(values));
         difference.newerPart = optionPart(myNewer.byKey.value(key).constFirst());
@@ -184,7 +185,7 @@ void KTOptionComparison::compareValues(const QString &key)
         const KTConfiguredArticleVariant &option = myOlder.list.at(place);
         KTDifference &difference
             = myList->add(Rule::OptionRemoved, subjectOf(id),
-                          QStringLiteral("%1 is gone from %2; offered: %3")
+                          KTCatalogueText::tr("%1 is gone from %2; offered: %3")
                               .arg(named(option.value(), option.visibleName()), keyText, offered),
                           option.value(), QString());
         addAbout(&difference, place, -1, id);
@@ -196,9 +197,9 @@ void KTOptionComparison::compareValues(const QString &key)
         const KTConfiguredArticleVariant &option = myNewer.list.at(place);
         KTDifference &difference
             = myList->add(Rule::OptionAdded, subjectOf(id),
-                          QStringLiteral("%1 is new in %2%3")
+                          KTCatalogueText::tr("%1 is new in %2%3")
                               .arg(named(option.value(), option.visibleName()), keyText,
-                                   option.isNotAccountable() ? QStringLiteral(", free") : QString()),
+                                   option.isNotAccountable() ? KTCatalogueText::tr(", free") : QString()),
                           QString(), option.value());
         addAbout(&difference, -1, place, id);
     }
@@ -226,18 +227,18 @@ void KTOptionComparison::comparePreselection()
         if (was.isEmpty()) {
             rule = Rule::PreselectionAdded;
             const bool isFree = newerPlace >= 0 && myNewer.list.at(newerPlace).isNotAccountable();
-            message = QStringLiteral("%1 comes with %2 unless something else is chosen, was without%3")
+            message = KTCatalogueText::tr("%1 comes with %2 unless something else is chosen, was without%3")
                           .arg(keyText, optionText(myNewer, newerPlace, is),
-                               isFree ? QString() : QStringLiteral("; it is charged"));
+                               isFree ? QString() : KTCatalogueText::tr("; it is charged"));
         } else if (is.isEmpty()) {
             rule = Rule::PreselectionRemoved;
-            message = QStringLiteral("%1 comes without a choice, was %2")
+            message = KTCatalogueText::tr("%1 comes without a choice, was %2")
                           .arg(keyText, optionText(myOlder, olderPlace, was));
         } else {
             message
-                = QStringLiteral("%1 comes with %2 unless something else is chosen, was %3%4")
+                = KTCatalogueText::tr("%1 comes with %2 unless something else is chosen, was %3%4")
                       .arg(keyText, optionText(myNewer, newerPlace, is), optionText(myOlder, olderPlace, was),
-                           placeIn(myNewer, wasId) < 0 ? QStringLiteral(", which is gone") : QString());
+                           placeIn(myNewer, wasId) < 0 ? KTCatalogueText::tr(", which is gone") : QString());
         }
         KTDifference &difference = myList->add(rule, keySubject(key), message, was, is);
         difference.olderPart = optionPart(olderPlace, KTAttributeId::FormPreselected);
@@ -257,15 +258,15 @@ void KTOptionComparison::compareCharges()
         if (option.isNotAccountable() == myOlder.list.at(place).isNotAccountable())
             continue;
         const QString text
-            = QStringLiteral("%1 of %2")
+            = KTCatalogueText::tr("%1 of %2")
                   .arg(named(option.value(), option.visibleName()), named(option.key(), option.keyName()));
-        const QString free = QStringLiteral("free");
-        const QString charged = QStringLiteral("charged");
+        const QString free = KTCatalogueText::tr("free");
+        const QString charged = KTCatalogueText::tr("charged");
         KTDifference &difference = option.isNotAccountable()
             ? myList->add(Rule::OptionNotCharged, subjectOf(id),
-                          QStringLiteral("%1 is free, was charged").arg(text), charged, free)
+                          KTCatalogueText::tr("%1 is free, was charged").arg(text), charged, free)
             : myList->add(Rule::OptionCharged, subjectOf(id),
-                          QStringLiteral("%1 is charged, was free").arg(text), free, charged);
+                          KTCatalogueText::tr("%1 is charged, was free").arg(text), free, charged);
         addAbout(&difference, place, newerPlace, id, KTAttributeId::FormNotAccountable);
     }
 }
@@ -280,10 +281,10 @@ void KTOptionComparison::compareRepetition()
             continue;
         KTDifference &difference = myList->add(
             Rule::OptionRepeated, subjectOf(id),
-            QStringLiteral("%1 of %2 stands in the list %3, was %4")
+            KTCatalogueText::tr("%1 of %2 stands in the list %3, was %4")
                 .arg(quoted(id.first.second), quoted(id.first.first),
-                     after == 1 ? QStringLiteral("once") : QStringLiteral("%1 times").arg(after),
-                     before == 1 ? QStringLiteral("once") : QStringLiteral("%1 times").arg(before)),
+                     after == 1 ? KTCatalogueText::tr("once") : KTCatalogueText::tr("%1 times").arg(after),
+                     before == 1 ? KTCatalogueText::tr("once") : KTCatalogueText::tr("%1 times").arg(before)),
             QString::number(before), QString::number(after));
         addAbout(&difference, place, placeIn(myNewer, id), id);
     }
@@ -315,7 +316,7 @@ void KTOptionComparison::compareRegrouping()
             = KTVariantsText::mcf(KTArticleVariants(newerId.first.first, newerId.first.second));
         KTDifference &difference
             = myList->add(Rule::CompoundRegrouped, subjectOf(id),
-                          QStringLiteral("in MCF %1 becomes %2; production gets the same, %3")
+                          KTCatalogueText::tr("in MCF %1 becomes %2; production gets the same, %3")
                               .arg(quoted(before), quoted(after), quoted(production)),
                           before, after);
         difference.olderPart = optionPart(place);
@@ -362,10 +363,10 @@ void KTOptionComparison::compareShared(KTDifferenceRule rule, KTAttributeId attr
         const QString after = getter(myNewer.list.at(group.newerPlace));
         const QString some = group.values.size() == commonCounts.value(key)
             ? QString()
-            : QStringLiteral(" for %1").arg(KTDifferenceList::listed(group.values));
+            : KTCatalogueText::tr(" for %1").arg(KTDifferenceList::listed(group.values));
         KTDifference &difference
             = myList->add(rule, keySubject(key),
-                          QStringLiteral("%1 of %2%3 is %4, %5")
+                          KTCatalogueText::tr("%1 of %2%3 is %4, %5")
                               .arg(what, quoted(key), some, orNone(after), wasText(before)),
                           before, after);
         difference.olderPart = optionPart(group.olderPlace, attribute);
@@ -376,9 +377,9 @@ void KTOptionComparison::compareShared(KTDifferenceRule rule, KTAttributeId attr
 
 void KTOptionComparison::compareNames()
 {
-    compareShared(Rule::KeyNameChanged, KTAttributeId::FormKeyName, QStringLiteral("the name"),
+    compareShared(Rule::KeyNameChanged, KTAttributeId::FormKeyName, KTCatalogueText::tr("the name"),
                   [](const KTConfiguredArticleVariant &option) { return option.keyName(); });
-    compareShared(Rule::OptionEditorChanged, KTAttributeId::FormEditorName, QStringLiteral("the editor"),
+    compareShared(Rule::OptionEditorChanged, KTAttributeId::FormEditorName, KTCatalogueText::tr("the editor"),
                   [](const KTConfiguredArticleVariant &option) { return option.editorName(); });
 }
 
@@ -393,11 +394,14 @@ void KTOptionComparison::compareEach()
         QString (*get)(const KTConfiguredArticleVariant &);
     };
     static constexpr Row ROWS[] = {
-        {Rule::OptionNameChanged,    KTAttributeId::FormValueName, "the name",
+        {Rule::OptionNameChanged,    KTAttributeId::FormValueName,
+         QT_TRANSLATE_NOOP("KTCatalogueText", "the name"),
          [](const KTConfiguredArticleVariant &option) { return option.visibleName(); }     },
-        {Rule::OptionColorChanged,   KTAttributeId::FormColor,     "the colour",
+        {Rule::OptionColorChanged,   KTAttributeId::FormColor,
+         QT_TRANSLATE_NOOP("KTCatalogueText", "the colour"),
          [](const KTConfiguredArticleVariant &option) { return colorName(option.color()); }},
-        {Rule::OptionPreviewChanged, KTAttributeId::FormPreview,   "the preview",
+        {Rule::OptionPreviewChanged, KTAttributeId::FormPreview,
+         QT_TRANSLATE_NOOP("KTCatalogueText", "the preview"),
          [](const KTConfiguredArticleVariant &option) { return option.preview(); }         },
     };
     for (int place = 0; place < myOlder.ids.size(); ++place) {
@@ -412,8 +416,8 @@ void KTOptionComparison::compareEach()
                 continue;
             KTDifference &difference
                 = myList->add(row.rule, subjectOf(id),
-                              QStringLiteral("%1 of %2 of %3 is %4, %5")
-                                  .arg(QString::fromLatin1(row.what), quoted(id.first.second),
+                              KTCatalogueText::tr("%1 of %2 of %3 is %4, %5")
+                                  .arg(KTCatalogueText::tr(row.what), quoted(id.first.second),
                                        quoted(id.first.first), orNone(after), wasText(before)),
                               before, after);
             addAbout(&difference, place, newerPlace, id, row.attribute);
@@ -453,7 +457,7 @@ void KTOptionComparison::compareOrder()
         const auto [wasText, isText] = orderTexts(was, is);
         KTDifference &difference = myList->add(
             Rule::OptionOrderChanged, keySubject(key),
-            QStringLiteral("%1 lists %2; was %3").arg(named(key, myNewer.keyName(key)), isText, wasText),
+            KTCatalogueText::tr("%1 lists %2; was %3").arg(named(key, myNewer.keyName(key)), isText, wasText),
             wasText, isText);
         difference.olderPart = optionPart(myOlder.byKey.value(key).constFirst());
         difference.newerPart = optionPart(myNewer.byKey.value(key).constFirst());
@@ -468,9 +472,9 @@ void KTOptionComparison::compareOrder()
         return texts;
     };
     const auto [was, is] = orderTexts(pairs(before), pairs(after));
-    KTDifference &difference
-        = myList->add(Rule::OptionOrderChanged, QStringLiteral("options"),
-                      QStringLiteral("the options are listed in the order %1; was %2").arg(is, was), was, is);
+    KTDifference &difference = myList->add(
+        Rule::OptionOrderChanged, QStringLiteral("options"),
+        KTCatalogueText::tr("the options are listed in the order %1; was %2").arg(is, was), was, is);
     difference.olderPart = optionPart(0);
     difference.newerPart = optionPart(0);
 }

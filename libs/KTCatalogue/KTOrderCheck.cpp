@@ -1,5 +1,6 @@
 #include "KTOrderCheck.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTVariantsText.h"
 
@@ -105,7 +106,7 @@ KTOrderVerdict KTOrderCheck::check(const KTSavedOrder &order)
     KTOrderVerdict verdict;
     const Draft *const prepared = draft(order.articleId);
     if (!*prepared) {
-        verdict.problems.append({Reason::UnknownArticle, QStringLiteral("is not in the catalogue")});
+        verdict.problems.append({Reason::UnknownArticle, KTCatalogueText::tr("is not in the catalogue")});
         return verdict;
     }
     verdict.draft = *prepared;
@@ -118,9 +119,9 @@ KTOrderVerdict KTOrderCheck::check(const KTSavedOrder &order)
         verdict.problems.append({reasonOf(refusal), refusal.toString()});
     const QString entry = unreadableEntry(order.mcf);
     if (!entry.isNull())
-        verdict.problems.append(
-            {Reason::UnreadableChoice,
-             QStringLiteral("was saved with %1, which is no key and value").arg(KTCheckText::quoted(entry))});
+        verdict.problems.append({Reason::UnreadableChoice,
+                                 KTCatalogueText::tr("was saved with %1, which is no key and value")
+                                     .arg(KTCheckText::quoted(entry))});
     return verdict;
 }
 

@@ -1,5 +1,6 @@
 #include "KTPageComparison.h"
 
+#include "KTCatalogueText.h"
 #include "KTMillimeterText.h"
 
 #include <KTArithmetic.h>
@@ -41,7 +42,7 @@ QString bleedText(const KTMargins &bleed)
         = bleed.top() == bleed.bottom() && bleed.left() == bleed.right() && bleed.top() == bleed.left();
     if (isSame)
         return QStringLiteral("%1 mm").arg(text(bleed.top()));
-    return QStringLiteral("top %1, bottom %2, left %3, right %4 mm")
+    return KTCatalogueText::tr("top %1, bottom %2, left %3, right %4 mm")
         .arg(text(bleed.top()), text(bleed.bottom()), text(bleed.left()), text(bleed.right()));
 }
 
@@ -52,7 +53,7 @@ QString slipcaseText(const QSize &size)
 
 QString orNone(const QString &text)
 {
-    return text.isEmpty() ? QStringLiteral("none") : text;
+    return text.isEmpty() ? KTCatalogueText::tr("none") : text;
 }
 
 } // namespace
@@ -96,15 +97,16 @@ void KTPageComparison::compareGroup(const Group &group)
         = group.older < 0 ? myList->newer().pages().at(group.newer) : myList->older().pages().at(group.older);
     const QString type = page.context.pageType().encode();
     const QString alignment = KTPageAlignment(static_cast<KTPageAlignmentEnum>(group.alignments)).encodeCSV();
-    const QString name = QStringLiteral("%1 (%2)").arg(type.isEmpty() ? QStringLiteral("no page type") : type,
-                                                       orNone(alignment));
+    const QString name = QStringLiteral("%1 (%2)").arg(
+        type.isEmpty() ? KTCatalogueText::tr("no page type") : type, orNone(alignment));
     const QString subject = QStringLiteral("pages.%1.%2").arg(type, alignment);
     const QString size = KTMillimeterText::text(page.size.usableSize());
     if (group.newer < 0)
-        add(Rule::PageTypeRemoved, group, subject, QStringLiteral("page %1 is gone, was %2").arg(name, size),
-            size, QString(), KTAttributeId::PageType);
+        add(Rule::PageTypeRemoved, group, subject,
+            KTCatalogueText::tr("page %1 is gone, was %2").arg(name, size), size, QString(),
+            KTAttributeId::PageType);
     else if (group.older < 0)
-        add(Rule::PageTypeAdded, group, subject, QStringLiteral("page %1 is new, %2").arg(name, size),
+        add(Rule::PageTypeAdded, group, subject, KTCatalogueText::tr("page %1 is new, %2").arg(name, size),
             QString(), size, KTAttributeId::PageType);
     else
         compareSizes(group, name, subject);
@@ -117,17 +119,18 @@ void KTPageComparison::compareSizes(const Group &group, const QString &name, con
     const auto addChange = [&](Rule rule, const QString &what, const QString &was, const QString &is,
                                KTAttributeId attribute) {
         add(rule, group, subject,
-            QStringLiteral("page %1: %2 %3, was %4").arg(name, what, orNone(is), orNone(was)), was, is,
+            KTCatalogueText::tr("page %1: %2 %3, was %4").arg(name, what, orNone(is), orNone(was)), was, is,
             attribute);
     };
     if (before.usableSize() != after.usableSize())
-        addChange(Rule::PageSizeChanged, QStringLiteral("size"), KTMillimeterText::text(before.usableSize()),
-                  KTMillimeterText::text(after.usableSize()), KTAttributeId::PageWidth);
+        addChange(Rule::PageSizeChanged, KTCatalogueText::tr("size"),
+                  KTMillimeterText::text(before.usableSize()), KTMillimeterText::text(after.usableSize()),
+                  KTAttributeId::PageWidth);
     if (before.bleedMargins() != after.bleedMargins())
-        addChange(Rule::BleedChanged, QStringLiteral("bleed"), bleedText(before.bleedMargins()),
+        addChange(Rule::BleedChanged, KTCatalogueText::tr("bleed"), bleedText(before.bleedMargins()),
                   bleedText(after.bleedMargins()), KTAttributeId::PageBleedTop);
     if (before.usableSlipcaseCoverSize() != after.usableSlipcaseCoverSize())
-        addChange(Rule::SlipcaseChanged, QStringLiteral("slipcase cover"),
+        addChange(Rule::SlipcaseChanged, KTCatalogueText::tr("slipcase cover"),
                   slipcaseText(before.usableSlipcaseCoverSize()),
                   slipcaseText(after.usableSlipcaseCoverSize()), KTAttributeId::PageSlipcaseWidth);
 }

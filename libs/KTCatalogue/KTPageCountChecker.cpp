@@ -1,6 +1,7 @@
 #include "KTPageCountChecker.h"
 
 #include "KTArticle.h"
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 
 #include <KTXMLParser.h>
@@ -30,7 +31,7 @@ void KTPageCountChecker::checkArticle(KTElementCursor *cursor) const
             if (cursor->has(id)) {
                 cursor->report(
                     KTRule::IgnoredAttribute,
-                    QStringLiteral(
+                    KTCatalogueText::tr(
                         "the application does not read '%1' here: this calendar always has %2 pages")
                         .arg(KTCatalogueFormat::attributeName(id))
                         .arg(myPageCounts.minPages()),
@@ -43,7 +44,7 @@ void KTPageCountChecker::checkArticle(KTElementCursor *cursor) const
         && KTArticleClass(cursor->value(Id::ArticleClass).toString()).matches(KTArticleClassPictureBox)) {
         cursor->report(
             KTRule::IgnoredAttribute,
-            QStringLiteral("the application reads the page counts of a picture box without 'pieces': %1")
+            KTCatalogueText::tr("the application reads the page counts of a picture box without 'pieces': %1")
                 .arg(KTCheckText::text(myPageCounts)),
             cursor->attribute(Id::ArticlePieces));
     }
@@ -60,22 +61,25 @@ void KTPageCountChecker::checkRange(KTElementCursor *cursor) const
     const int step = myPageCounts.pageIncrement();
     // Put into words only for what is reported.
     const auto counts = [this] {
-        return QStringLiteral("the page counts are %1%2")
+        return KTCatalogueText::tr("the page counts are %1%2")
             .arg(KTCheckText::text(myPageCounts),
-                 myPageCounts.isValid() ? QString() : QStringLiteral(", which is not valid"));
+                 myPageCounts.isValid() ? QString() : KTCatalogueText::tr(", which is not valid"));
     };
     const auto wish = [this, max] {
-        return QStringLiteral("; a wish for %1 pages becomes %2").arg(max).arg(myPageCounts.constrain(max));
+        return KTCatalogueText::tr("; a wish for %1 pages becomes %2")
+            .arg(max)
+            .arg(myPageCounts.constrain(max));
     };
     const int stepOrUpper = cursor->firstOf({Id::ArticlePageStep, Id::ArticleMaxPages, Id::ArticlePages});
     if (min < 1 || max < 1) {
-        cursor->report(KTRule::PageCountRange, counts() + QStringLiteral("; they begin at 1"),
+        cursor->report(KTRule::PageCountRange, counts() + KTCatalogueText::tr("; they begin at 1"),
                        cursor->firstOf({Id::ArticlePages, Id::ArticlePieces, Id::ArticleMaxPages}));
     } else if (cursor->has(Id::ArticlePieces) && (min == HIGHEST || max == HIGHEST)) {
-        cursor->report(KTRule::PageCountRange,
-                       QStringLiteral("'pages' times 'pieces' is too large, so the application cuts it off; ")
-                           + counts(),
-                       cursor->attribute(Id::ArticlePieces));
+        cursor->report(
+            KTRule::PageCountRange,
+            KTCatalogueText::tr("'pages' times 'pieces' is too large, so the application cuts it off; ")
+                + counts(),
+            cursor->attribute(Id::ArticlePieces));
     } else if (min > max) {
         cursor->report(KTRule::PagesInverted, counts() + wish(),
                        cursor->firstOf({Id::ArticleMaxPages, Id::ArticlePages}));
@@ -86,8 +90,8 @@ void KTPageCountChecker::checkRange(KTElementCursor *cursor) const
     } else if (min < max && !myPageCounts.isConsistent()) {
         const int last = myPageCounts.pagesWithNExtraPackages(myPageCounts.numberOfPackages() - 1);
         cursor->report(KTRule::UnevenPageStep,
-                       counts() + QStringLiteral(", but the last one offered is %1").arg(last) + wish()
-                           + QStringLiteral(", which exceeds the maximum"),
+                       counts() + KTCatalogueText::tr(", but the last one offered is %1").arg(last) + wish()
+                           + KTCatalogueText::tr(", which exceeds the maximum"),
                        stepOrUpper);
     }
 }
@@ -99,7 +103,7 @@ void KTPageCountChecker::checkSpine(KTElementCursor *cursor) const
         return;
     cursor->report(
         KTRule::SpineWithoutStep,
-        QStringLiteral(
+        KTCatalogueText::tr(
             "a block has %1 packages of pages, but the article has no 'page_step'; the spine never "
             "grows")
             .arg(packages.toString()),

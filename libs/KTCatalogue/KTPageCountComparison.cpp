@@ -1,5 +1,6 @@
 #include "KTPageCountComparison.h"
 
+#include "KTCatalogueText.h"
 #include "KTOrderDraft.h"
 
 #include <KTDistanceUnit.h>
@@ -61,21 +62,21 @@ QString millimeters(double length, int decimals)
 QString widthText(int pages, double before, double after)
 {
     const int decimals = decimalsFor(before, after);
-    return QStringLiteral("at %1 pages %2, was %3")
+    return KTCatalogueText::tr("at %1 pages %2, was %3")
         .arg(QString::number(pages), millimeters(after, decimals), number(before, decimals));
 }
 
 /** "48 of 65 page counts" or "all 65 page counts" */
 QString share(qint64 part, qint64 whole)
 {
-    return part < whole ? QStringLiteral("%1 of %2 page counts").arg(part).arg(whole)
-                        : QStringLiteral("all %1 page counts").arg(whole);
+    return part < whole ? KTCatalogueText::tr("%1 of %2 page counts").arg(part).arg(whole)
+                        : KTCatalogueText::tr("all %1 page counts").arg(whole);
 }
 
 /** The numbers as they are, which need not be valid. */
 QString rangeText(const KTPageCountOrganization &pageCounts)
 {
-    return QStringLiteral("%1 to %2, step %3")
+    return KTCatalogueText::tr("%1 to %2, step %3")
         .arg(pageCounts.minPages())
         .arg(pageCounts.maxPages())
         .arg(pageCounts.pageIncrement());
@@ -113,19 +114,19 @@ void KTPageCountComparison::compareCounts()
 {
     const qint64 removed = myOlder.size() - myCommon.size();
     const qint64 added = myNewer.size() - myCommon.size();
-    const QString change = QStringLiteral("%1 becomes %2").arg(myOlder.toText(), myNewer.toText());
+    const QString change = KTCatalogueText::tr("%1 becomes %2").arg(myOlder.toText(), myNewer.toText());
     if (const auto first = myOlder.firstNotIn(myNewer)) {
         QString message = change;
         if (myOlder.size() > 1)
             message += removed < myOlder.size()
-                ? QStringLiteral(": %1 of %2 counts %3 gone")
+                ? KTCatalogueText::tr(": %1 of %2 counts %3 gone")
                       .arg(QString::number(removed), QString::number(myOlder.size()),
-                           removed == 1 ? QStringLiteral("is") : QStringLiteral("are"))
-                : QStringLiteral(": all %1 counts are gone").arg(removed);
+                           removed == 1 ? KTCatalogueText::tr("is") : KTCatalogueText::tr("are"))
+                : KTCatalogueText::tr(": all %1 counts are gone").arg(removed);
         else
-            message.prepend(QStringLiteral("the page count "));
+            message.prepend(KTCatalogueText::tr("the page count "));
         if (!myNewer.isEmpty() && myOlder.size() > 1)
-            message += QStringLiteral(", the next to %1 is %2")
+            message += KTCatalogueText::tr(", the next to %1 is %2")
                            .arg(QString::number(*first), nearestTo(myList->newer(), *first));
         addAboutCounts(Rule::PageCountsRemoved, message);
     }
@@ -133,18 +134,18 @@ void KTPageCountComparison::compareCounts()
     const auto first = myNewer.firstNotIn(myOlder);
     if (first && myOlderPages.isValid() == myNewerPages.isValid()) {
         const QString counts = added == 1
-            ? QStringLiteral("one new page count, %1").arg(*first)
-            : QStringLiteral("%1 new page counts, from %2 on").arg(added).arg(*first);
+            ? KTCatalogueText::tr("one new page count, %1").arg(*first)
+            : KTCatalogueText::tr("%1 new page counts, from %2 on").arg(added).arg(*first);
         addAboutCounts(Rule::PageCountsAdded,
                        removed > 0 ? counts : QStringLiteral("%1: %2").arg(change, counts));
     }
     const bool isRangeSame = myOlderPages.maxPages() == myNewerPages.maxPages();
     if (removed == 0 && added == 0 && !isRangeSame && !myOlder.isEmpty()) {
-        KTDifference &difference
-            = addAboutCounts(Rule::PageRangeChanged,
-                             QStringLiteral("the highest page count is %1, was %2; the valid ones stay %3")
-                                 .arg(QString::number(myNewerPages.maxPages()),
-                                      QString::number(myOlderPages.maxPages()), myNewer.toText()));
+        KTDifference &difference = addAboutCounts(
+            Rule::PageRangeChanged,
+            KTCatalogueText::tr("the highest page count is %1, was %2; the valid ones stay %3")
+                .arg(QString::number(myNewerPages.maxPages()), QString::number(myOlderPages.maxPages()),
+                     myNewer.toText()));
         difference.before = QString::number(myOlderPages.maxPages());
         difference.after = QString::number(myNewerPages.maxPages());
     }
@@ -157,11 +158,12 @@ void KTPageCountComparison::compareValidity()
     const QString before = rangeText(myOlderPages);
     const QString after = rangeText(myNewerPages);
     KTDifference &difference = myNewerPages.isValid()
-        ? addAboutCounts(Rule::PageCountsRepaired,
-                         QStringLiteral("the page counts (%1) are valid, were not (%2)").arg(after, before))
-        : addAboutCounts(
-            Rule::PageCountsInvalid,
-            QStringLiteral("the page counts (%1) are no longer valid, were %2").arg(after, myOlder.toText()));
+        ? addAboutCounts(
+            Rule::PageCountsRepaired,
+            KTCatalogueText::tr("the page counts (%1) are valid, were not (%2)").arg(after, before))
+        : addAboutCounts(Rule::PageCountsInvalid,
+                         KTCatalogueText::tr("the page counts (%1) are no longer valid, were %2")
+                             .arg(after, myOlder.toText()));
     difference.before = before;
     difference.after = after;
 }
@@ -173,15 +175,15 @@ void KTPageCountComparison::compareSpines()
     if (older.hasSpine() != newer.hasSpine()) {
         const KTArticle &article = older.hasSpine() ? older : newer;
         const int pages = article.pageCounts().minPages();
-        const QString text = QStringLiteral("%1 at %2 pages")
+        const QString text = KTCatalogueText::tr("%1 at %2 pages")
                                  .arg(millimeters(spineMillimeters(article, pages), 1))
                                  .arg(pages);
         if (newer.hasSpine())
-            addAboutSpine(Rule::SpineAdded, QStringLiteral("there is a spine, %1; was none").arg(text),
+            addAboutSpine(Rule::SpineAdded, KTCatalogueText::tr("there is a spine, %1; was none").arg(text),
                           QString(), text, KTAttributeId::SpineBaseWidth);
         else
-            addAboutSpine(Rule::SpineRemoved, QStringLiteral("the spine is gone, was %1").arg(text), text,
-                          QString(), KTAttributeId::SpineBaseWidth);
+            addAboutSpine(Rule::SpineRemoved, KTCatalogueText::tr("the spine is gone, was %1").arg(text),
+                          text, QString(), KTAttributeId::SpineBaseWidth);
         return;
     }
     if (!newer.hasSpine())
@@ -195,7 +197,7 @@ void KTPageCountComparison::compareSpines()
         return;
     const int decimals = decimalsFor(before, after);
     addAboutSpine(Rule::SpineMarginChanged,
-                  QStringLiteral("the additional width on each side of the spine is %1, was %2")
+                  KTCatalogueText::tr("the additional width on each side of the spine is %1, was %2")
                       .arg(millimeters(after, decimals), number(before, decimals)),
                   millimeters(before, decimals), millimeters(after, decimals),
                   KTAttributeId::SpineAdditionalWidth);
@@ -234,19 +236,20 @@ void KTPageCountComparison::compareSpineWidths()
     const auto text = [](const Width &width) { return widthText(width.pages, width.before, width.after); };
     QString counts = share(count, compared);
     if (compared < myCommon.size())
-        counts += QStringLiteral(" that were compared");
+        counts += KTCatalogueText::tr(" that were compared");
     else if (compared < std::max(myOlder.size(), myNewer.size()))
-        counts += QStringLiteral(" that both have");
+        counts += KTCatalogueText::tr(" that both have");
     QString message;
     if (count == 1)
-        message = QStringLiteral("spine %1").arg(text(*first));
+        message = KTCatalogueText::tr("spine %1").arg(text(*first));
     else if (isConstant)
-        message = QStringLiteral("spine %1 %2 at %3: %4")
+        message = KTCatalogueText::tr("spine %1 %2 at %3: %4")
                       .arg(millimeters(std::abs(change), decimalsFor(change, 0.0)),
-                           change > 0.0 ? QStringLiteral("wider") : QStringLiteral("narrower"), counts,
-                           text(*first));
+                           change > 0.0 ? KTCatalogueText::tr("wider") : KTCatalogueText::tr("narrower"),
+                           counts, text(*first));
     else
-        message = QStringLiteral("spine %1, %2; another one at %3").arg(text(*first), text(*last), counts);
+        message
+            = KTCatalogueText::tr("spine %1, %2; another one at %3").arg(text(*first), text(*last), counts);
     const int decimals = decimalsFor(last->before, last->after);
     addAboutSpine(Rule::SpineChanged, message, millimeters(last->before, decimals),
                   millimeters(last->after, decimals), KTAttributeId::SpineBaseWidth);

@@ -1,5 +1,7 @@
 #include "KTPageCountSet.h"
 
+#include "KTCatalogueText.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
@@ -77,9 +79,9 @@ std::optional<int> KTPageCountSet::firstNotIn(const KTPageCountSet &other) const
 QString KTPageCountSet::toText() const
 {
     if (isEmpty())
-        return QStringLiteral("none");
+        return KTCatalogueText::tr("none");
     if (mySize == 1)
         return QString::number(myFirst);
-    const QString range = QStringLiteral("%1 to %2").arg(myFirst).arg(last());
-    return myStep == 1 ? range : QStringLiteral("%1 step %2").arg(range).arg(myStep);
+    const QString range = KTCatalogueText::tr("%1 to %2").arg(myFirst).arg(last());
+    return myStep == 1 ? range : KTCatalogueText::tr("%1 step %2").arg(range).arg(myStep);
 }

@@ -1,5 +1,7 @@
 #include "KTSavedOrders.h"
 
+#include "KTCatalogueText.h"
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QStringList>
@@ -24,14 +26,14 @@ KTSavedOrders::Item KTSavedOrders::next(KTSavedOrder *order)
             // A device at its end may say so with an error code as well.
             if (length == 0 || myDevice->atEnd())
                 return Item::End;
-            myError = QStringLiteral("the file cannot be read: %1").arg(myDevice->errorString());
+            myError = KTCatalogueText::tr("the file cannot be read: %1").arg(myDevice->errorString());
             return Item::Error;
         }
         order->line = ++myLine;
         const char last = myBuffer.at(static_cast<int>(length) - 1);
         if (length == BUFFER_SIZE - 1 && last != '\n') {
             skipRest(last);
-            myError = QStringLiteral("the line has more than %1 bytes").arg(MAX_LINE_LENGTH);
+            myError = KTCatalogueText::tr("the line has more than %1 bytes").arg(MAX_LINE_LENGTH);
             return Item::Malformed;
         }
         QByteArray line = QByteArray::fromRawData(myBuffer.constData(), static_cast<int>(length));
@@ -48,26 +50,26 @@ KTSavedOrders::Item KTSavedOrders::parse(const QByteArray &line, KTSavedOrder *o
 {
     const QList<QByteArray> fields = line.split(FIELD_SEPARATOR);
     if (fields.size() > MAX_FIELDS) {
-        myError = QStringLiteral("more than article, page count and MCF");
+        myError = KTCatalogueText::tr("more than article, page count and MCF");
         return Item::Malformed;
     }
     bool ok = false;
     order->articleId = fields.constFirst().toInt(&ok);
     if (!ok) {
-        myError = QStringLiteral("the article is no number");
+        myError = KTCatalogueText::tr("the article is no number");
         return Item::Malformed;
     }
     order->pages.reset();
     if (!fields.value(1).trimmed().isEmpty()) {
         order->pages = fields.at(1).toInt(&ok);
         if (!ok) {
-            myError = QStringLiteral("the page count is no number");
+            myError = KTCatalogueText::tr("the page count is no number");
             return Item::Malformed;
         }
     }
     order->mcf = QString::fromUtf8(fields.value(2));
     if (order->mcf.contains(QChar::ReplacementCharacter) && order->mcf.toUtf8() != fields.value(2)) {
-        myError = QStringLiteral("the MCF is not UTF-8");
+        myError = KTCatalogueText::tr("the MCF is not UTF-8");
         return Item::Malformed;
     }
     return Item::Order;

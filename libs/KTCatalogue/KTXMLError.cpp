@@ -1,5 +1,6 @@
 #include "KTXMLError.h"
 
+#include "KTCatalogueText.h"
 #include "KTCheckText.h"
 #include "KTStartTag.h"
 
@@ -49,7 +50,9 @@ bool startsWith(const char *begin, const char *end, std::string_view text)
 
 QString unclosed(const QString &openElement, int openLine)
 {
-    return QStringLiteral("the element %1 of line %2 is not closed").arg(quoted(openElement)).arg(openLine);
+    return KTCatalogueText::tr("the element %1 of line %2 is not closed")
+        .arg(quoted(openElement))
+        .arg(openLine);
 }
 
 /** The markup that is open at the place begins here; null in a text. */
@@ -117,28 +120,28 @@ Answer reference(const Text &text, bool isNumber, const char *words)
 QString unclosedMarkup(const char *begin, const char *end)
 {
     if (startsWith(begin, end, "<!--"))
-        return QStringLiteral("a comment is not closed by '-->'");
+        return KTCatalogueText::tr("a comment is not closed by '-->'");
     if (startsWith(begin, end, "<?"))
-        return QStringLiteral("what begins with '<?' is not closed by '?>'");
+        return KTCatalogueText::tr("what begins with '<?' is not closed by '?>'");
     if (*begin == '&')
-        return QStringLiteral("'&' must be written as '&amp;'");
+        return KTCatalogueText::tr("'&' must be written as '&amp;'");
     bool isInValue = false;
     KTStartTag::forEachAttribute(begin, end, [&](const KTStartTag::Attribute &attribute) {
         isInValue = attribute.valueBegin != end && attribute.valueEnd == end;
         return true;
     });
-    return isInValue ? QStringLiteral("a value of this tag is not closed by a quote")
-                     : QStringLiteral("the tag has no '>'");
+    return isInValue ? KTCatalogueText::tr("a value of this tag is not closed by a quote")
+                     : KTCatalogueText::tr("the tag has no '>'");
 }
 
 /** What is wrong inside of a tag that begins at the markup. */
 Answer wrongTag(const Text &text, const char *markup)
 {
     if (text.place == markup + 1)
-        return {QStringLiteral("a name is missing; in a text '<' must be written as '&lt;'"), markup};
+        return {KTCatalogueText::tr("a name is missing; in a text '<' must be written as '&lt;'"), markup};
     const char before = text.place[-1];
     if (before == '"' || before == '\'') {
-        return {QStringLiteral("there must be a blank here, or a quote before is missing"), text.place};
+        return {KTCatalogueText::tr("there must be a blank here, or a quote before is missing"), text.place};
     }
     const char *end = text.place;
     while (end != markup && (KTStartTag::isBlank(end[-1]) || end[-1] == '='))
@@ -147,9 +150,9 @@ Answer wrongTag(const Text &text, const char *markup)
     while (begin != markup && !KTStartTag::isBlank(begin[-1]) && begin[-1] != '<')
         --begin;
     if (begin != markup + 1 && begin != end && markup[1] != '/')
-        return {QStringLiteral("the attribute %1 has no value in quotes").arg(quoted(begin, end)),
+        return {KTCatalogueText::tr("the attribute %1 has no value in quotes").arg(quoted(begin, end)),
                 text.place};
-    return {QStringLiteral("what stands here belongs into no tag"), text.place};
+    return {KTCatalogueText::tr("what stands here belongs into no tag"), text.place};
 }
 
 /** A character that cannot stand where it does. */
@@ -157,34 +160,34 @@ Answer invalidToken(const Text &text)
 {
     const int length = text.place == text.end ? 1 : characterLength(text.place, text.end);
     if (length == 0) {
-        return {
-            QStringLiteral("the byte 0x%1 is not UTF-8; save the file as UTF-8, or name its encoding in the "
-                           "first line")
-                .arg(static_cast<uchar>(*text.place), 2, 16, QLatin1Char('0')),
-            text.place};
+        return {KTCatalogueText::tr(
+                    "the byte 0x%1 is not UTF-8; save the file as UTF-8, or name its encoding in the "
+                    "first line")
+                    .arg(static_cast<uchar>(*text.place), 2, 16, QLatin1Char('0')),
+                text.place};
     }
     if (text.place != text.end && isForbidden(text.place, length)) {
         return {
-            QStringLiteral("the character U+%1 is not allowed in XML")
+            KTCatalogueText::tr("the character U+%1 is not allowed in XML")
                 .arg(uint(QString::fromUtf8(text.place, length).at(0).unicode()), 4, 16, QLatin1Char('0')),
             text.place};
     }
     if (const char *const reference = beginOfReference(text))
-        return {QStringLiteral("'&' must be written as '&amp;'"), reference};
+        return {KTCatalogueText::tr("'&' must be written as '&amp;'"), reference};
     // Where markup may begin, it would be taken for that.
     if (text.place != text.end && *text.place == '<') {
-        return {QStringLiteral(
+        return {KTCatalogueText::tr(
                     "a '<' inside of a tag: a quote or '>' before it is missing, or it must be '&lt;'"),
                 text.place};
     }
     const char *const markup = beginOfMarkup(text);
     if (markup && startsWith(markup, text.end, "<!--"))
-        return {QStringLiteral("'--' inside of a comment"), text.place};
+        return {KTCatalogueText::tr("'--' inside of a comment"), text.place};
     if (markup)
         return wrongTag(text, markup);
     if (text.place - text.begin >= 2 && startsWith(text.place - 2, text.end, "]]>"))
-        return {QStringLiteral("']]>' in a text must be written as ']]&gt;'"), text.place};
-    return {QStringLiteral("what stands here is no XML"), text.place};
+        return {KTCatalogueText::tr("']]>' in a text must be written as ']]&gt;'"), text.place};
+    return {KTCatalogueText::tr("what stands here is no XML"), text.place};
 }
 
 } // namespace
@@ -202,32 +205,32 @@ KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const 
     // Of a text outside of the root element the parser tells this or that, and not its begin.
     const char *const outside = std::find_if_not(text.markupEnd, text.end, &KTStartTag::isBlank);
     if (openElement.isEmpty() && outside != text.end && *outside != '<' && outside <= text.place)
-        return {QStringLiteral("there is text outside of the root element"), outside};
+        return {KTCatalogueText::tr("there is text outside of the root element"), outside};
     switch (error) {
     case XML_ERROR_NO_ELEMENTS:
         if (!openElement.isEmpty())
             return {unclosed(openElement, openLine), text.end};
-        return {text.isWholeFile && text.begin == text.end ? QStringLiteral("the file is empty")
-                                                           : QStringLiteral("the file has no element"),
+        return {text.isWholeFile && text.begin == text.end ? KTCatalogueText::tr("the file is empty")
+                                                           : KTCatalogueText::tr("the file has no element"),
                 text.end};
     case XML_ERROR_SYNTAX:
-        return at(QStringLiteral("what stands here does not belong before the root element"));
+        return at(KTCatalogueText::tr("what stands here does not belong before the root element"));
     case XML_ERROR_INVALID_TOKEN:
         return invalidToken(text);
     case XML_ERROR_UNCLOSED_TOKEN:
         return at(unclosedMarkup(text.place, text.end));
     case XML_ERROR_PARTIAL_CHAR:
-        return at(QStringLiteral("the file ends inside of a character"));
+        return at(KTCatalogueText::tr("the file ends inside of a character"));
     case XML_ERROR_TAG_MISMATCH:
-        return {QStringLiteral("the end tag is that of %1, but %2")
+        return {KTCatalogueText::tr("the end tag is that of %1, but %2")
                     .arg(quoted(text.place, KTStartTag::endOfName(text.place, text.end)),
                          unclosed(openElement, openLine)),
                 text.place - 2};
     case XML_ERROR_DUPLICATE_ATTRIBUTE:
-        return at(QStringLiteral("the attribute %1 is there twice")
+        return at(KTCatalogueText::tr("the attribute %1 is there twice")
                       .arg(quoted(text.place, KTStartTag::endOfName(text.place, text.end))));
     case XML_ERROR_JUNK_AFTER_DOC_ELEMENT:
-        return at(QStringLiteral("there is something behind the end of the root element"));
+        return at(KTCatalogueText::tr("there is something behind the end of the root element"));
     case XML_ERROR_UNDEFINED_ENTITY:
         return reference(
             text, false,
@@ -236,9 +239,9 @@ KTXMLError::Answer KTXMLError::explain(XML_Error error, const Text &text, const 
     case XML_ERROR_BAD_CHAR_REF:
         return reference(text, true, "%1 is no character of XML");
     case XML_ERROR_MISPLACED_XML_PI:
-        return at(QStringLiteral("'<?xml' may only stand at the very begin of the file"));
+        return at(KTCatalogueText::tr("'<?xml' may only stand at the very begin of the file"));
     case XML_ERROR_UNCLOSED_CDATA_SECTION:
-        return at(QStringLiteral("a section is not closed by ']]>'"));
+        return at(KTCatalogueText::tr("a section is not closed by ']]>'"));
     default:
         return at(QString::fromUtf8(XML_ErrorString(error)));
     }

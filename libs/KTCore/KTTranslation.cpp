@@ -7,26 +7,43 @@
 #include <QTranslator>
 
 #include <memory>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/** Each with the language in which its texts stand in the sources. */
+constexpr std::pair<const char *, QLocale::Language> SOURCES[] = {
+    {"ktproductbase", QLocale::German },
+    {"ktcatalogue",   QLocale::English},
+};
+
+} // namespace
 
 bool KTTranslation::install(const QLocale &locale)
 {
     // The application owns what is installed, so it may be gone with a former one.
-    static QPointer<QTranslator> myInstalled;
+    static std::vector<QPointer<QTranslator>> myInstalled;
     QCoreApplication *const application = QCoreApplication::instance();
     if (!application)
         return false;
-    std::unique_ptr<QTranslator> translator;
-    if (locale.language() != QLocale::German) {
-        const QString language = locale.name().section(u'_', 0, 0);
+    const QString language = locale.name().section(u'_', 0, 0);
+    std::vector<std::unique_ptr<QTranslator>> translators;
+    for (const auto &[name, sourceLanguage] : SOURCES) {
+        if (locale.language() == sourceLanguage)
+            continue;
         const QString file = KTDirectoryConfig::instance()->resource(
-            QStringLiteral("translations/ktproductbase_%1.qm").arg(language), false);
-        translator = std::make_unique<QTranslator>(application);
-        if (file.isEmpty() || !translator->load(file))
+            QStringLiteral("translations/%1_%2.qm").arg(QString::fromLatin1(name), language), false);
+        translators.push_back(std::make_unique<QTranslator>(application));
+        if (file.isEmpty() || !translators.back()->load(file))
             return false;
     }
-    delete myInstalled.data();
-    if (translator)
+    for (const QPointer<QTranslator> &former : myInstalled)
+        delete former.data();
+    myInstalled.clear();
+    for (std::unique_ptr<QTranslator> &translator : translators) {
         QCoreApplication::installTranslator(translator.get());
-    myInstalled = translator.release();
+        myInstalled.emplace_back(translator.release());
+    }
     return true;
 }

@@ -5,15 +5,16 @@
 #include <QLocale>
 
 /**
- * The display texts in other languages than German, in which they stand in the sources.
+ * The library's texts in other languages than those in which they stand in the sources: German for the
+ * display texts of the product model, English for what KT::Catalogue says of catalogues and orders.
  *
- * The texts come from the folder "translations" of the resources (see KTDirectoryConfig).
+ * They come from the folder "translations" of the resources (see KTDirectoryConfig).
  */
 namespace KTTranslation {
 
 /**
- * Lets the application show the display texts in the language of the locale: true where they are there, which
- * they always are in German; else false, and nothing changes.
+ * Lets the application show all texts in the language of the locale, German or English: true where they are
+ * there, else false, and nothing changes.
  *
  * Call it in the application's thread, once there is an application object, and before the first display text
  * is asked for: tables of names are built on first use, and what they hold by then stays as it is. A language

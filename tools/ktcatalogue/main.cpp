@@ -8,6 +8,7 @@
 #include "KTOrdersCommand.h"
 #include "KTPreviewCommand.h"
 #include "KTShowCommand.h"
+#include "KTToolText.h"
 
 #include <KTNearestWord.h>
 #include <KTProductBaseVersion.h>
@@ -32,33 +33,39 @@ struct CommandRow
 };
 
 constexpr CommandRow COMMANDS[] = {
-    {"show",          "Shows what the library makes of each article.",           &KTShowCommand::run    },
-    {"check",         "Finds what the library passes over in silence.",          &KTCheckCommand::run   },
-    {"diff",          "Tells what a new catalogue changes for customers.",       &KTDiffCommand::run    },
-    {"order",         "Writes order text, MCF and production form of a choice.", &KTOrderCommand::run   },
-    {"orders",        "Finds saved orders that can no longer be ordered.",       &KTOrdersCommand::run  },
-    {DRAWING_COMMAND, "Draws the cover of an article to scale.",                 &KTPreviewCommand::run },
-    {"keywords",      "Shows the keyword tables of the classifications.",        &KTKeywordsCommand::run},
+    {"show",          QT_TRANSLATE_NOOP("KTToolText", "Shows what the library makes of each article."),
+     &KTShowCommand::run    },
+    {"check",         QT_TRANSLATE_NOOP("KTToolText", "Finds what the library passes over in silence."),
+     &KTCheckCommand::run   },
+    {"diff",          QT_TRANSLATE_NOOP("KTToolText", "Tells what a new catalogue changes for customers."),
+     &KTDiffCommand::run    },
+    {"order",         QT_TRANSLATE_NOOP("KTToolText", "Writes order text, MCF and production form of a choice."),
+     &KTOrderCommand::run   },
+    {"orders",        QT_TRANSLATE_NOOP("KTToolText", "Finds saved orders that can no longer be ordered."),
+     &KTOrdersCommand::run  },
+    {DRAWING_COMMAND, QT_TRANSLATE_NOOP("KTToolText", "Draws the cover of an article to scale."),
+     &KTPreviewCommand::run },
+    {"keywords",      QT_TRANSLATE_NOOP("KTToolText", "Shows the keyword tables of the classifications."),
+     &KTKeywordsCommand::run},
 };
 
 QString help()
 {
     QString text
-        = QStringLiteral("Usage: %1 COMMAND [FILE] [OPTIONS]\n"
+        = KTToolText::tr("Usage: %1 COMMAND [FILE] [OPTIONS]\n"
                          "Makes a catalogue of printed photo products visible.\n\n"
                          "Options:\n"
                          "  -h, --help             Displays this help.\n"
                          "  -v, --version          Displays the versions of the library and of Qt.\n"
-                         "  --language <LANGUAGE>  Display names in German (de) or English (en), in\n"
-                         "                         each command; by default as the environment says.\n\n"
+                         "  --language <LANGUAGE>  All texts in German (de) or English (en), with\n"
+                         "                         any command; by default as the environment says.\n\n"
                          "Commands (each has a --help of its own):\n")
               .arg(QCoreApplication::applicationName());
     for (const CommandRow &row : COMMANDS)
         text += QStringLiteral("  %1 %2\n")
-                    .arg(QString::fromLatin1(row.name).leftJustified(14),
-                         QString::fromLatin1(row.description));
+                    .arg(QString::fromLatin1(row.name).leftJustified(14), KTToolText::tr(row.description));
     return text
-        + QStringLiteral("\nExample:\n  %1 show examples/catalogue.xml --article 7301\n")
+        + KTToolText::tr("\nExample:\n  %1 show examples/catalogue.xml --article 7301\n")
               .arg(QCoreApplication::applicationName());
 }
 
@@ -80,11 +87,11 @@ KTExitCode run(const QStringList &arguments)
             return row.run(arguments);
     }
     if (arguments.isEmpty())
-        return KTConsole::failUsage(QStringLiteral("a command is missing"));
+        return KTConsole::failUsage(KTToolText::tr("a command is missing"));
     const QString nearest = KTNearestWord::find(command, names);
     return KTConsole::failUsage(
-        QStringLiteral("unknown command '%1'").arg(command)
-        + (nearest.isNull() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
+        KTToolText::tr("unknown command '%1'").arg(command)
+        + (nearest.isNull() ? QString() : KTToolText::tr(", did you mean '%1'?").arg(nearest)));
 }
 
 /** What the library logs is for the user too, one line each. */

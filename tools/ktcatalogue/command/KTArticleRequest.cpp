@@ -1,13 +1,14 @@
 #include "KTArticleRequest.h"
 
 #include "KTCatalogueFile.h"
+#include "KTToolText.h"
 
 KTArticleRequest::KTArticleRequest(KTCommandLine *commandLine, Article article, const QString &pagesHelp)
     : myCommandLine(commandLine)
     , myArticle(article)
     , myArticleOption(QStringLiteral("article"),
-                      article == Article::Needed ? QStringLiteral("The number of the article.")
-                                                 : QStringLiteral("Only the article with this number."),
+                      article == Article::Needed ? KTToolText::tr("The number of the article.")
+                                                 : KTToolText::tr("Only the article with this number."),
                       QStringLiteral("ID"))
     , myPagesOption(QStringLiteral("pages"), pagesHelp, QStringLiteral("N"))
 {

@@ -2,6 +2,7 @@
 
 #include "KTConsole.h"
 #include "KTFileName.h"
+#include "KTToolText.h"
 
 KTCatalogueFile::KTCatalogueFile(const QString &name)
     : myName(name)
@@ -22,7 +23,7 @@ KTCatalogueFile::forEachArticle(const std::function<void(const KTCatalogueArticl
     const auto countArticle = [&] {
         ++count;
         if (progress.isDue())
-            progress.show(QStringLiteral("%1: %2 articles").arg(myName, QString::number(count)));
+            progress.show(KTToolText::tr("%1: %2 articles").arg(myName, QString::number(count)));
     };
     bool isFound = false;
     if (articleId) {

@@ -5,9 +5,11 @@
 #include "KTFileName.h"
 #include "KTFindingWriter.h"
 #include "KTParallelCheck.h"
+#include "KTToolText.h"
 
 #include <KTArithmetic.h>
 #include <KTCatalogueChecker.h>
+#include <KTCatalogueText.h>
 #include <KTNearestWord.h>
 
 #include <QFile>
@@ -60,24 +62,32 @@ struct OptionRow
 };
 
 const OptionRow OPTIONS[] = {
-    {FILES_FROM,   "FILE",     "",        "Further files, named in FILE line by line; - for standard input."           },
+    {FILES_FROM,   "FILE",     "",
+     QT_TRANSLATE_NOOP("KTToolText",                                      "Further files, named in FILE line by line; - for standard input.")},
     {FAIL_ON,      "SEVERITY", "warning",
-     "The least severity for exit code 1: error, warning (the default), hint or never."                                },
-    {IGNORE,       "RULE",     "",        "Leaves out a rule, or several, separated by commas."                        },
-    {ERROR,        "RULE",     "",        "Takes the findings of a rule, or of several, as errors."                    },
-    {PEDANTIC,     "",         "",        "Takes warnings as errors and hints as warnings."                            },
-    {JOBS,         "N",        "1",       "Checks N files at once; the output stays the same. 1 by default."           },
-    {MAX_FINDINGS, "N",        "",        "Shows the first N findings; all of them are counted."                       },
-    {QUIET,        "",         "",        "Neither summary nor progress on standard error."                            },
-    {LIST_RULES,   "",         "",        "Lists the rules."                                                           },
-    {EXPLAIN,      "RULE",     "",        "Explains a rule."                                                           },
-    {COLOR,        "WHEN",     "auto",    "auto (the default: on a terminal, unless NO_COLOR is set), always or never."},
+     QT_TRANSLATE_NOOP("KTToolText",
+     "The least severity for exit code 1: error, warning (the default), hint or never.")                                                     },
+    {IGNORE,       "RULE",     "",
+     QT_TRANSLATE_NOOP("KTToolText",                                      "Leaves out a rule, or several, separated by commas.")             },
+    {ERROR,        "RULE",     "",
+     QT_TRANSLATE_NOOP("KTToolText",                                      "Takes the findings of a rule, or of several, as errors.")         },
+    {PEDANTIC,     "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Takes warnings as errors and hints as warnings.")                 },
+    {JOBS,         "N",        "1",
+     QT_TRANSLATE_NOOP("KTToolText",                                      "Checks N files at once; the output stays the same. 1 by default.")},
+    {MAX_FINDINGS, "N",        "",
+     QT_TRANSLATE_NOOP("KTToolText",                                      "Shows the first N findings; all of them are counted.")            },
+    {QUIET,        "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Neither summary nor progress on standard error.")                 },
+    {LIST_RULES,   "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")                                                },
+    {EXPLAIN,      "RULE",     "",        QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")                                                },
+    {COLOR,        "WHEN",     "auto",
+     QT_TRANSLATE_NOOP("KTToolText",
+     "auto (the default: on a terminal, unless NO_COLOR is set), always or never.")                                                          },
 };
 
 void addOptions(QCommandLineParser *parser)
 {
     for (const OptionRow &row : OPTIONS) {
-        QCommandLineOption option(row.name, QString::fromLatin1(row.description),
+        QCommandLineOption option(row.name, KTToolText::tr(row.description),
                                   QString::fromLatin1(row.valueName));
         if (*row.defaultValue)
             option.setDefaultValue(QString::fromLatin1(row.defaultValue));
@@ -92,8 +102,8 @@ const KTRuleRow *findRule(const QString &name)
     if (!row) {
         const QString nearest = KTNearestWord::find(name, KTCheckRules::names());
         KTConsole::failUsage(
-            QStringLiteral("there is no rule '%1'").arg(name)
-            + (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
+            KTToolText::tr("there is no rule '%1'").arg(name)
+            + (nearest.isEmpty() ? QString() : KTToolText::tr(", did you mean '%1'?").arg(nearest)));
     }
     return row;
 }
@@ -106,7 +116,7 @@ QString ruleList()
         text += QStringLiteral("%1 %2 %3\n")
                     .arg(QString::fromLatin1(row.name), -20)
                     .arg(KTCheckRules::name(row.severity), -8)
-                    .arg(QString::fromLatin1(row.summary));
+                    .arg(KTCatalogueText::tr(row.summary));
     }
     return text;
 }
@@ -115,7 +125,7 @@ QString explanation(const KTRuleRow &row)
 {
     return QStringLiteral("%1 (%2): %3.\n%4\n")
         .arg(QString::fromLatin1(row.name), KTCheckRules::name(row.severity),
-             QString::fromLatin1(row.summary), QString::fromLatin1(row.explanation));
+             KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation));
 }
 
 /** The severity from which on findings count; an exit code for a word that is none. */
@@ -239,11 +249,11 @@ public:
         if (!myWriter->flush())
             return myWriter->isReaderGone() ? KTExitUnwritable : KTConsole::failToWrite();
         if (!myOptions.isQuiet) {
-            QString text = QStringLiteral("total: %1").arg(myTotal.toText());
+            QString text = KTToolText::tr("total: %1").arg(myTotal.toText());
             if (myWritten < myTotal.total())
-                text += QStringLiteral(", %1 of them not shown").arg(myTotal.total() - myWritten);
+                text += KTToolText::tr(", %1 of them not shown").arg(myTotal.total() - myWritten);
             if (myTotal.unreadable > 0)
-                text += QStringLiteral("; %1 of %2 files unreadable").arg(myTotal.unreadable).arg(files);
+                text += KTToolText::tr("; %1 of %2 files unreadable").arg(myTotal.unreadable).arg(files);
             KTConsole::note(text);
         }
         if (myTotal.unreadable > 0)
@@ -269,7 +279,7 @@ void checkOneByOne(const QStringList &names, const Options &options, Output *out
                                options.severities);
     checker.setListener([&](int articles) {
         if (output->progress().isDue())
-            output->progress().show(QStringLiteral("%1: %2 articles").arg(name, QString::number(articles)));
+            output->progress().show(KTToolText::tr("%1: %2 articles").arg(name, QString::number(articles)));
     });
     for (const QString &file : names) {
         name = file;
@@ -283,7 +293,7 @@ void checkAtOnce(const QStringList &names, const Options &options, Output *outpu
     KTParallelCheck check(names, options.severities, options.jobs);
     for (int i = 0; i < names.size(); ++i) {
         if (output->progress().isDue())
-            output->progress().show(QStringLiteral("%1 of %2 files").arg(i).arg(names.size()));
+            output->progress().show(KTToolText::tr("%1 of %2 files").arg(i).arg(names.size()));
         const KTParallelCheck::Result result = check.take(i);
         for (const KTFinding &finding : result.findings)
             output->write(finding);
@@ -310,7 +320,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("check"),
-        QStringLiteral("Finds what the application would pass over in silence: where it stands, and what the "
+        KTToolText::tr("Finds what the application would pass over in silence: where it stands, and what the "
                        "application makes of it. Exits with 0 when nothing was found, 1 for findings, 2 for "
                        "files that are not readable."),
         QStringLiteral("examples/catalogue.xml --fail-on=error"), KTCommandLine::Files::Any);
@@ -336,7 +346,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
             return *code;
     }
     if (names.isEmpty() && !parser.isSet(FILES_FROM))
-        return KTConsole::failUsage(QStringLiteral("'check' needs a file"));
+        return KTConsole::failUsage(KTToolText::tr("'check' needs a file"));
 
     const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
     const KTExitCode code = checkFiles(names, options);

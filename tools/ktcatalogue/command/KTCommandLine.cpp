@@ -1,6 +1,7 @@
 #include "KTCommandLine.h"
 
 #include "KTConsole.h"
+#include "KTToolText.h"
 
 #include <QCoreApplication>
 
@@ -16,15 +17,15 @@ KTCommandLine::KTCommandLine(const QString &command, const QString &description,
     , myFiles(files)
 {
     myParser.setApplicationDescription(
-        QStringLiteral("%1\n\nExample:\n  %2 %3 %4")
+        KTToolText::tr("%1\n\nExample:\n  %2 %3 %4")
             .arg(description, QCoreApplication::applicationName(), command, example));
     myParser.addOption({
         {QStringLiteral("h"), HELP_OPTION},
-        QStringLiteral("Displays this help.")
+        KTToolText::tr("Displays this help.")
     });
     const QString file = QStringLiteral("FILE");
     if (files != Files::None) {
-        myParser.addPositionalArgument(file, QStringLiteral("The catalogue; - for standard input."),
+        myParser.addPositionalArgument(file, KTToolText::tr("The catalogue; - for standard input."),
                                        files == Files::One ? file : QStringLiteral("[FILE...]"));
     }
 }
@@ -34,10 +35,10 @@ void KTCommandLine::addFormats(const QStringList &formats)
     myFormats = formats;
     myParser.addOptions({
         {FORMAT_OPTION,
-         QStringLiteral("One of %1; %2 by default.")
+         KTToolText::tr("One of %1; %2 by default.")
              .arg(formats.join(QStringLiteral(", ")),    formats.constFirst()),
          QStringLiteral("FORMAT"), formats.constFirst()},
-        {JSON_OPTION, QStringLiteral("The same as --format json.")},
+        {JSON_OPTION, KTToolText::tr("The same as --format json.")},
     });
 }
 
@@ -57,17 +58,20 @@ std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
     if (myParser.isSet(HELP_OPTION))
         return KTConsole::print(helpText());
     if (myFiles == Files::One && myParser.positionalArguments().size() != 2)
-        return KTConsole::failUsage(QStringLiteral("'%1' needs one file").arg(myCommand));
+        return KTConsole::failUsage(KTToolText::tr("'%1' needs one file").arg(myCommand));
     return std::nullopt;
 }
 
 /** Qt would put the options before the command, where they are not understood. */
 QString KTCommandLine::helpText() const
 {
-    const QString text = myParser.helpText();
+    // Qt's own headings would need Qt's own translations.
+    const QString text = myParser.helpText()
+                             .replace(QStringLiteral("\nOptions:\n"), KTToolText::tr("\nOptions:\n"))
+                             .replace(QStringLiteral("\nArguments:\n"), KTToolText::tr("\nArguments:\n"));
     const QString firstLine = text.section(QLatin1Char('\n'), 0, 0);
     const QString operands = firstLine.section(QLatin1Char(']'), 1).trimmed();
-    return QStringLiteral("Usage: %1\n")
+    return KTToolText::tr("Usage: %1\n")
                .arg(QStringList {QCoreApplication::applicationName(), myCommand, operands,
                                  QStringLiteral("[OPTIONS]")}
                         .join(QLatin1Char(' ')))
@@ -91,7 +95,7 @@ std::optional<int> KTCommandLine::number(const QCommandLineOption &option) const
         return std::nullopt;
     if (!values->isEmpty())
         return values->constLast();
-    KTConsole::failUsage(QStringLiteral("'%1' needs --%2").arg(myCommand, option.names().constFirst()));
+    KTConsole::failUsage(KTToolText::tr("'%1' needs --%2").arg(myCommand, option.names().constFirst()));
     return std::nullopt;
 }
 
@@ -103,7 +107,7 @@ std::optional<QList<int>> KTCommandLine::numbers(const QCommandLineOption &optio
         numbers.append(text.toInt(&ok));
         if (!ok) {
             KTConsole::failUsage(
-                QStringLiteral("'%1' is no number for --%2").arg(text, option.names().constFirst()));
+                KTToolText::tr("'%1' is no number for --%2").arg(text, option.names().constFirst()));
             return std::nullopt;
         }
     }
@@ -116,7 +120,7 @@ std::optional<int> KTCommandLine::number(const QCommandLineParser &parser, const
     const int number = parser.value(option).toInt(&ok);
     if (ok && number >= minimum)
         return number;
-    KTConsole::failUsage(QStringLiteral("'%1' is no number for %2%3")
+    KTConsole::failUsage(KTToolText::tr("'%1' is no number for %2%3")
                              .arg(parser.value(option),
                                   option.size() == 1 ? QStringLiteral("-") : QStringLiteral("--"), option));
     return std::nullopt;
@@ -124,7 +128,7 @@ std::optional<int> KTCommandLine::number(const QCommandLineParser &parser, const
 
 KTExitCode KTCommandLine::failChoice(const QString &option, const QString &value, const QStringList &choices)
 {
-    return KTConsole::failUsage(QStringLiteral("'%1' is no value of --%2; possible: %3")
+    return KTConsole::failUsage(KTToolText::tr("'%1' is no value of --%2; possible: %3")
                                     .arg(value, option, choices.join(QStringLiteral(", "))));
 }
 
@@ -132,12 +136,12 @@ KTExitCode KTCommandLine::failNoArticle(int articleId) const
 {
     return KTConsole::fail(
         KTExitUnanswerable,
-        QStringLiteral("%1: there is no article %2").arg(fileName(), QString::number(articleId)));
+        KTToolText::tr("%1: there is no article %2").arg(fileName(), QString::number(articleId)));
 }
 
 KTExitCode KTCommandLine::failArticle(int articleId, const QString &objection) const
 {
     return KTConsole::fail(
         KTExitUnanswerable,
-        QStringLiteral("%1: article %2 %3").arg(fileName(), QString::number(articleId), objection));
+        KTToolText::tr("%1: article %2 %3").arg(fileName(), QString::number(articleId), objection));
 }

@@ -3,6 +3,7 @@
 #include "KTFileName.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -37,7 +38,7 @@ KTExitCode KTConsole::fail(KTExitCode code, const QString &message)
 KTExitCode KTConsole::failUsage(const QString &message)
 {
     const QString name = QCoreApplication::applicationName();
-    return fail(KTExitUsage, QStringLiteral("%1: %2; see '%1 --help'").arg(name, message));
+    return fail(KTExitUsage, KTToolText::tr("%1: %2; see '%1 --help'").arg(name, message));
 }
 
 KTExitCode KTConsole::print(const QString &text)
@@ -57,7 +58,7 @@ KTExitCode KTConsole::deliver(KTSpool *spool)
 
 KTExitCode KTConsole::failToWrite()
 {
-    return fail(KTExitUnwritable, QStringLiteral("the output cannot be written"));
+    return fail(KTExitUnwritable, KTToolText::tr("the output cannot be written"));
 }
 
 bool KTConsole::isColored()

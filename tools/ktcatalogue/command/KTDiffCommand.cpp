@@ -6,8 +6,10 @@
 #include "KTDifferenceWriter.h"
 #include "KTFileName.h"
 #include "KTLogSilence.h"
+#include "KTToolText.h"
 
 #include <KTCatalogueComparison.h>
+#include <KTCatalogueText.h>
 #include <KTNearestWord.h>
 #include <KTOrderImpact.h>
 
@@ -61,22 +63,28 @@ struct OptionRow
 
 const OptionRow OPTIONS[] = {
     {FAIL_ON,     "KIND",   "breaking",
-     "The least kind for exit code 1: breaking (the default), charge, production, offer, text or never."        },
-    {IGNORE,      "RULE",   "",         "Leaves out a rule, or several, separated by commas."                   },
-    {ARTICLE,     "ID",     "",         "Only the article with this number."                                    },
-    {SUMMARY,     "",       "",         "Only how many differences there are of each rule."                     },
+     QT_TRANSLATE_NOOP("KTToolText",
+     "The least kind for exit code 1: breaking (the default), charge, production, offer, "
+                       "text or never.")                                                                                                                              },
+    {IGNORE,      "RULE",   "",
+     QT_TRANSLATE_NOOP("KTToolText",                                    "Leaves out a rule, or several, separated by commas.")                                        },
+    {ARTICLE,     "ID",     "",         QT_TRANSLATE_NOOP("KTToolText", "Only the article with this number.")                                                         },
+    {SUMMARY,     "",       "",         QT_TRANSLATE_NOOP("KTToolText", "Only how many differences there are of each rule.")                                          },
     {ORDERS,      "ORDERS", "",
-     "Counts the saved orders that each breaking or charge difference hits; - for standard input."              },
-    {LIST_ORDERS, "N",      "20",       "Lists the first N orders that can no longer be ordered. 20 by default."},
-    {QUIET,       "",       "",         "No summary on standard error."                                         },
-    {LIST_RULES,  "",       "",         "Lists the rules."                                                      },
-    {EXPLAIN,     "RULE",   "",         "Explains a rule."                                                      },
+     QT_TRANSLATE_NOOP(
+         "KTToolText",                                                  "Counts the saved orders that each breaking or charge difference hits; - for standard input.")},
+    {LIST_ORDERS, "N",      "20",
+     QT_TRANSLATE_NOOP("KTToolText",
+     "Lists the first N orders that can no longer be ordered. 20 by default.")                                                                                        },
+    {QUIET,       "",       "",         QT_TRANSLATE_NOOP("KTToolText", "No summary on standard error.")                                                              },
+    {LIST_RULES,  "",       "",         QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")                                                                           },
+    {EXPLAIN,     "RULE",   "",         QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")                                                                           },
 };
 
 void addOptions(QCommandLineParser *parser)
 {
     for (const OptionRow &row : OPTIONS) {
-        QCommandLineOption option(row.name, QString::fromLatin1(row.description),
+        QCommandLineOption option(row.name, KTToolText::tr(row.description),
                                   QString::fromLatin1(row.valueName));
         if (*row.defaultValue)
             option.setDefaultValue(QString::fromLatin1(row.defaultValue));
@@ -91,8 +99,8 @@ const KTDifferenceRuleRow *findRule(const QString &name)
     if (!row) {
         const QString nearest = KTNearestWord::find(name, KTDifferenceRules::names());
         KTConsole::failUsage(
-            QStringLiteral("there is no rule '%1'").arg(name)
-            + (nearest.isEmpty() ? QString() : QStringLiteral(", did you mean '%1'?").arg(nearest)));
+            KTToolText::tr("there is no rule '%1'").arg(name)
+            + (nearest.isEmpty() ? QString() : KTToolText::tr(", did you mean '%1'?").arg(nearest)));
     }
     return row;
 }
@@ -105,7 +113,7 @@ QString ruleList()
         text += QStringLiteral("%1 %2 %3\n")
                     .arg(QString::fromLatin1(row.name), -23)
                     .arg(KTDifferenceRules::name(row.kind), -11)
-                    .arg(QString::fromLatin1(row.summary));
+                    .arg(KTCatalogueText::tr(row.summary));
     }
     return text;
 }
@@ -114,7 +122,7 @@ QString explanation(const KTDifferenceRuleRow &row)
 {
     return QStringLiteral("%1 (%2): %3.\n%4\n")
         .arg(QString::fromLatin1(row.name), KTDifferenceRules::name(row.kind),
-             QString::fromLatin1(row.summary), QString::fromLatin1(row.explanation));
+             KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation));
 }
 
 /** What is to be done; an exit code for wrong usage, which is reported. */
@@ -148,7 +156,7 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     options->isQuiet = parser.isSet(QUIET);
     options->ordersName = parser.value(ORDERS);
     if (parser.isSet(LIST_ORDERS) && !parser.isSet(ORDERS))
-        return KTConsole::failUsage(QStringLiteral("--%1 needs --%2").arg(LIST_ORDERS, ORDERS));
+        return KTConsole::failUsage(KTToolText::tr("--%1 needs --%2").arg(LIST_ORDERS, ORDERS));
     const std::optional<int> maximum = KTCommandLine::number(parser, LIST_ORDERS, 0);
     if (!maximum)
         return KTExitUsage;
@@ -265,7 +273,7 @@ private:
                 myWriter->writeBroken(name, order, outcome.verdict);
             }
             if (progress.isDue())
-                progress.show(QStringLiteral("%1: %2 orders").arg(name, QString::number(impact->orders())));
+                progress.show(KTToolText::tr("%1: %2 orders").arg(name, QString::number(impact->orders())));
         }
         progress.clear();
         counts.orders = impact->orders();
@@ -292,7 +300,7 @@ KTExitCode compareFiles(const QString &olderName, const QString &newerName, cons
         return olderFailure ? *olderFailure : *newerFailure;
     if (options.articleId && older.index()->size() == 0 && newer.index()->size() == 0)
         return KTConsole::fail(KTExitUnanswerable,
-                               QStringLiteral("there is no article %1 in %2 nor in %3")
+                               KTToolText::tr("there is no article %1 in %2 nor in %3")
                                    .arg(QString::number(*options.articleId), olderName, newerName));
     return Comparison(&older, &newer, options).run();
 }
@@ -303,16 +311,16 @@ KTExitCode KTDiffCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("diff"),
-        QStringLiteral("Compares two catalogues as the application reads them and tells what changes for "
+        KTToolText::tr("Compares two catalogues as the application reads them and tells what changes for "
                        "customers, orders and production. Exits with 0 when nothing was found, 1 for "
                        "differences of the kind of --fail-on or a graver one, 2 for files that are not "
                        "readable."),
         QStringLiteral("examples/catalogue.xml examples/catalogue-next.xml --orders examples/orders.tsv"),
         KTCommandLine::Files::None);
     commandLine.parser().addPositionalArgument(
-        QStringLiteral("OLD"), QStringLiteral("The catalogue as it was; - for standard input."));
+        QStringLiteral("OLD"), KTToolText::tr("The catalogue as it was; - for standard input."));
     commandLine.parser().addPositionalArgument(
-        QStringLiteral("NEW"), QStringLiteral("The catalogue as it is to be; - for standard input."));
+        QStringLiteral("NEW"), KTToolText::tr("The catalogue as it is to be; - for standard input."));
     commandLine.addFormats(KTDifferenceWriter::formats());
     addOptions(&commandLine.parser());
     if (const auto code = commandLine.parse(arguments))
@@ -330,10 +338,10 @@ KTExitCode KTDiffCommand::run(const QStringList &arguments)
         return *code;
     const QStringList names = commandLine.fileNames();
     if (names.size() != 2)
-        return KTConsole::failUsage(QStringLiteral("'diff' needs two files, OLD and NEW"));
+        return KTConsole::failUsage(KTToolText::tr("'diff' needs two files, OLD and NEW"));
     const QStringList inputs = names + QStringList {options.ordersName};
     if (std::count_if(inputs.begin(), inputs.end(), &KTFileName::isStandardInput) > 1)
-        return KTConsole::failUsage(QStringLiteral("standard input can be read only once"));
+        return KTConsole::failUsage(KTToolText::tr("standard input can be read only once"));
 
     const KTLogSilence silence;
     return compareFiles(names.constFirst(), names.constLast(), options);

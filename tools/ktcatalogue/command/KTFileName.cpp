@@ -1,5 +1,7 @@
 #include "KTFileName.h"
 
+#include "KTToolText.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -134,7 +136,7 @@ QString KTFileName::replaceFile(const QString &name, const QByteArray &content)
 {
     const std::optional<struct stat> status = statusOf(name);
     if (status && !S_ISREG(status->st_mode))
-        return QStringLiteral("it is no regular file");
+        return KTToolText::tr("it is no regular file");
     const QByteArray target = targetOf(toBytes(name));
     QByteArray temporary = target + ".XXXXXX";
     const int descriptor = mkostemp(temporary.data(), O_CLOEXEC);
@@ -145,7 +147,7 @@ QString KTFileName::replaceFile(const QString &name, const QByteArray &content)
         && file.write(content) == content.size() && file.flush();
     if (!isWritten) {
         // Less may be written without an error.
-        QString error = file.error() == QFileDevice::NoError ? QStringLiteral("it cannot be written whole")
+        QString error = file.error() == QFileDevice::NoError ? KTToolText::tr("it cannot be written whole")
                                                              : file.errorString();
         unlink(temporary.constData());
         return error;

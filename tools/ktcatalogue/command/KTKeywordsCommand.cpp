@@ -3,6 +3,7 @@
 #include "KTCommandLine.h"
 #include "KTConsole.h"
 #include "KTNearestWord.h"
+#include "KTToolText.h"
 
 #include <KTArithmetic.h>
 #include <KTCatalogueFormat.h>
@@ -16,7 +17,6 @@
 namespace {
 
 const QString SEPARATOR = QStringLiteral(", ");
-const QString NOTHING = QStringLiteral("nothing");
 /** No keyword of any table. */
 const QString UNKNOWN_WORD = QStringLiteral("?");
 
@@ -45,7 +45,7 @@ bool isNamed(const KTClassification &row, const QString &name)
 QString resultOf(const KTClassification &row, const QString &text, const QString &quote)
 {
     const qint64 value = row.decode(text);
-    return value == 0 ? NOTHING : quote + row.written(value) + quote;
+    return value == 0 ? KTToolText::tr("nothing") : quote + row.written(value) + quote;
 }
 
 /** What happens to texts that are no keywords. */
@@ -56,9 +56,9 @@ QString defaults(const KTClassification &row, const QString &quote)
     const qint64 value = row.decode(UNKNOWN_WORD);
     const QString written = value == 0 ? row.written(value) : QString();
     return (unknown == empty
-                ? QStringLiteral("An unknown word and an empty text become %1").arg(unknown)
-                : QStringLiteral("An unknown word becomes %1, an empty text %2").arg(unknown, empty))
-        + (written.isEmpty() ? QString() : QStringLiteral(", which is written as %1%2%1").arg(quote, written))
+                ? KTToolText::tr("An unknown word and an empty text become %1").arg(unknown)
+                : KTToolText::tr("An unknown word becomes %1, an empty text %2").arg(unknown, empty))
+        + (written.isEmpty() ? QString() : KTToolText::tr(", which is written as %1%2%1").arg(quote, written))
         + QLatin1Char('.');
 }
 
@@ -88,8 +88,8 @@ QString text(const QVector<const KTClassification *> &rows)
     for (const KTClassification *const classification : rows) {
         const KTClassification &row = *classification;
         QVector<QStringList> lines {
-            {QStringLiteral("keyword"), QStringLiteral("value"), QStringLiteral("name"),
-             QStringLiteral("also read")}
+            {KTToolText::tr("keyword"), KTToolText::tr("value"), KTToolText::tr("name"),
+             KTToolText::tr("also read")}
         };
         for (const KTKeywordInfo &keyword : row.keywords())
             lines.append(
@@ -190,9 +190,9 @@ KTExitCode failClass(const QString &name)
     for (const KTClassification &row : KTClassification::all())
         names.append(row.className());
     const QString nearest = KTNearestWord::find(name, names);
-    return KTConsole::failUsage(QStringLiteral("unknown class '%1', ").arg(name)
-                                + (nearest.isNull() ? QStringLiteral("there are ") + names.join(SEPARATOR)
-                                                    : QStringLiteral("did you mean '%1'?").arg(nearest)));
+    return KTConsole::failUsage(KTToolText::tr("unknown class '%1', ").arg(name)
+                                + (nearest.isNull() ? KTToolText::tr("there are ") + names.join(SEPARATOR)
+                                                    : KTToolText::tr("did you mean '%1'?").arg(nearest)));
 }
 
 } // namespace
@@ -201,13 +201,13 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("keywords"),
-        QStringLiteral(
+        KTToolText::tr(
             "Shows the keyword tables of the classifications: what is written, what it stands for, "
             "what else is read, and what becomes of other texts."),
         QStringLiteral("KTOrientation"), KTCommandLine::Files::None);
     commandLine.parser().addPositionalArgument(
         QStringLiteral("CLASS"),
-        QStringLiteral("Only this classification, named by its class or its attribute: KTOrientation or "
+        KTToolText::tr("Only this classification, named by its class or its attribute: KTOrientation or "
                        "orientation."),
         QStringLiteral("[CLASS]"));
     QStringList formats;
@@ -219,7 +219,7 @@ KTExitCode KTKeywordsCommand::run(const QStringList &arguments)
 
     const QStringList operands = commandLine.parser().positionalArguments().mid(1);
     if (operands.size() > 1)
-        return KTConsole::failUsage(QStringLiteral("'keywords' takes one class"));
+        return KTConsole::failUsage(KTToolText::tr("'keywords' takes one class"));
     QVector<const KTClassification *> rows;
     for (const KTClassification &row : KTClassification::all()) {
         if (operands.isEmpty() || isNamed(row, operands.constFirst()))

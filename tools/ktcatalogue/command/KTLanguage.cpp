@@ -2,6 +2,7 @@
 
 #include "KTCommandLine.h"
 #include "KTConsole.h"
+#include "KTToolText.h"
 
 #include <KTTranslation.h>
 
@@ -49,6 +50,6 @@ std::optional<KTExitCode> KTLanguage::install(QStringList *arguments)
     const QString language = chosen.isNull() ? languageOfEnvironment() : chosen;
     if (LANGUAGES.contains(language) && !KTTranslation::install(QLocale(language)))
         KTConsole::note(
-            QStringLiteral("ktcatalogue: the texts in the language '%1' are missing").arg(language));
+            KTToolText::tr("ktcatalogue: the texts in the language '%1' are missing").arg(language));
     return std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include "KTConsole.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <KTOrderDraft.h>
 #include <KTQtTypes.h>
@@ -20,15 +21,14 @@ const QString JSON_FORMAT = QStringLiteral("json");
 
 QString text(const KTOrderDraft &order)
 {
-    const auto line = [](const char *label, const QString &value) {
-        return QStringLiteral("%1  %2\n")
-            .arg(QString::fromLatin1(label).leftJustified(12), KTTerminalText::escaped(value));
+    const auto line = [](const QString &label, const QString &value) {
+        return QStringLiteral("%1  %2\n").arg(label.leftJustified(12), KTTerminalText::escaped(value));
     };
-    return line("article", order.article().articleId().toString())
-        + line("product type", order.article().productType().orderTxtName())
-        + (order.pages() ? line("pages", QString::number(*order.pages())) : QString())
-        + line("order text", order.orderText()) + line("MCF", order.mcf())
-        + line("production", KTVariantsText::mcf(order.production()));
+    return line(KTToolText::tr("article"), order.article().articleId().toString())
+        + line(KTToolText::tr("product type"), order.article().productType().orderTxtName())
+        + (order.pages() ? line(KTToolText::tr("pages"), QString::number(*order.pages())) : QString())
+        + line(KTToolText::tr("order text"), order.orderText()) + line(QStringLiteral("MCF"), order.mcf())
+        + line(KTToolText::tr("production"), KTVariantsText::mcf(order.production()));
 }
 
 QString json(const KTOrderDraft &order)
@@ -54,7 +54,7 @@ std::optional<KTArticleVariants> choices(const QStringList &texts)
     for (const QString &text : texts) {
         const KTSize separator = text.indexOf(QLatin1Char('='));
         if (separator <= 0) {
-            KTConsole::failUsage(QStringLiteral("'%1' is not KEY=VALUE").arg(text));
+            KTConsole::failUsage(KTToolText::tr("'%1' is not KEY=VALUE").arg(text));
             return std::nullopt;
         }
         choices.insert(text.left(separator), text.mid(separator + 1));
@@ -68,15 +68,15 @@ KTExitCode KTOrderCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("order"),
-        QStringLiteral(
+        KTToolText::tr(
             "Starts from the preselected options of an article, applies the choices, and writes the order "
             "text, the MCF and the production form."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 30 --choose alcolor=red"));
     KTArticleRequest request(&commandLine, KTArticleRequest::Article::Needed,
-                             QStringLiteral("The page count."));
+                             KTToolText::tr("The page count."));
     const QCommandLineOption chooseOption(
         QStringLiteral("choose"),
-        QStringLiteral("Chooses an option that the article offers; may be given several times."),
+        KTToolText::tr("Chooses an option that the article offers; may be given several times."),
         QStringLiteral("KEY=VALUE"));
     commandLine.parser().addOption(chooseOption);
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});

@@ -8,6 +8,7 @@
 #include "KTOrderText.h"
 #include "KTSpool.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <KTOrderCheck.h>
 
@@ -105,11 +106,11 @@ public:
             });
             mySpool.write(QStringLiteral("\n],\n\"total\":") + total + QStringLiteral("}\n"));
         } else {
-            QString total = QStringLiteral("%1 of %2 orders can no longer be ordered as saved")
+            QString total = KTToolText::tr("%1 of %2 orders can no longer be ordered as saved")
                                 .arg(counts.refused)
                                 .arg(counts.orders);
             if (counts.malformed > 0)
-                total += QStringLiteral("; lines that are no orders: %1").arg(counts.malformed);
+                total += KTToolText::tr("; lines that are no orders: %1").arg(counts.malformed);
             mySpool.write(total + QLatin1Char('\n') + text);
         }
         return KTConsole::deliver(&mySpool);
@@ -158,7 +159,7 @@ KTExitCode checkOrders(const QString &catalogueName, const QString &ordersName, 
         if (!verdict.problems.isEmpty())
             output.write(order, verdict);
         if (progress.isDue())
-            progress.show(QStringLiteral("%1: %2 orders").arg(ordersName, QString::number(counts.orders)));
+            progress.show(KTToolText::tr("%1: %2 orders").arg(ordersName, QString::number(counts.orders)));
     }
     progress.clear();
     if (const auto failure = catalogue.reportFailure())
@@ -173,15 +174,15 @@ KTExitCode KTOrdersCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("orders"),
-        QStringLiteral("Reads saved orders, one a line (article, page count, which may be empty, and MCF, "
+        KTToolText::tr("Reads saved orders, one a line (article, page count, which may be empty, and MCF, "
                        "separated by tabs), and finds those that can no longer be ordered as they were "
                        "saved: why, and what comes nearest. Exits with 0 when there is none, 1 when there "
                        "are some, 2 for files that are not readable."),
         QStringLiteral("examples/catalogue-next.xml examples/orders.tsv"), KTCommandLine::Files::None);
     commandLine.parser().addPositionalArgument(QStringLiteral("CATALOGUE"),
-                                               QStringLiteral("The catalogue; - for standard input."));
+                                               KTToolText::tr("The catalogue; - for standard input."));
     commandLine.parser().addPositionalArgument(QStringLiteral("ORDERS"),
-                                               QStringLiteral("The saved orders; - for standard input."));
+                                               KTToolText::tr("The saved orders; - for standard input."));
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))
         return *code;
@@ -190,9 +191,9 @@ KTExitCode KTOrdersCommand::run(const QStringList &arguments)
         return KTExitUsage;
     const QStringList names = commandLine.fileNames();
     if (names.size() != 2)
-        return KTConsole::failUsage(QStringLiteral("'orders' needs two files, CATALOGUE and ORDERS"));
+        return KTConsole::failUsage(KTToolText::tr("'orders' needs two files, CATALOGUE and ORDERS"));
     if (std::count_if(names.begin(), names.end(), &KTFileName::isStandardInput) > 1)
-        return KTConsole::failUsage(QStringLiteral("standard input can be read only once"));
+        return KTConsole::failUsage(KTToolText::tr("standard input can be read only once"));
 
     const KTLogSilence silence;
     return checkOrders(names.constFirst(), names.constLast(), *format);

@@ -5,6 +5,7 @@
 #include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTPreviewPainter.h"
+#include "KTToolText.h"
 
 #include <KTOrderDraft.h>
 #include <KTQtTypes.h>
@@ -139,15 +140,15 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("preview"),
-        QStringLiteral(
+        KTToolText::tr(
             "Draws the cover of an article to scale: usable area, bleed, spine, slipcase cover and "
             "barcodes, with dimensions in millimetres and the options on offer."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 90 -o cover.svg"));
     KTArticleRequest request(&commandLine, KTArticleRequest::Article::Needed,
-                             QStringLiteral("The page count; the least one by default."));
+                             KTToolText::tr("The page count; the least one by default."));
     const QCommandLineOption outputOption(
         {QStringLiteral("o"), QStringLiteral("output")},
-        QStringLiteral(
+        KTToolText::tr(
             "Writes to OUT, whose ending says the format: .svg, .png or .pdf. A file that is there "
             "is replaced once the drawing is complete."),
         QStringLiteral("OUT"));
@@ -159,10 +160,10 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
         return *code;
     const QString output = commandLine.parser().value(outputOption);
     if (output.isEmpty())
-        return KTConsole::failUsage(QStringLiteral("'preview' needs -o OUT"));
+        return KTConsole::failUsage(KTToolText::tr("'preview' needs -o OUT"));
     const FormatRow *const format = formatOf(output);
     if (!format)
-        return KTConsole::failUsage(QStringLiteral("'%1' does not end in .svg, .png or .pdf").arg(output));
+        return KTConsole::failUsage(KTToolText::tr("'%1' does not end in .svg, .png or .pdf").arg(output));
 
     KTArticle article;
     if (const auto code = request.readArticle(&article))
@@ -180,12 +181,12 @@ KTExitCode KTPreviewCommand::run(const QStringList &arguments)
         return KTConsole::fail(KTExitUnwritable, QStringLiteral("%1: error: %2").arg(output, reason));
     };
     if (KTFileName::areSame(output, commandLine.fileName()))
-        return fail(QStringLiteral("it is the catalogue"));
+        return fail(KTToolText::tr("it is the catalogue"));
     if (QFontDatabase().families().isEmpty())
-        return fail(QStringLiteral("no font is installed, so the drawing would have no text"));
+        return fail(KTToolText::tr("no font is installed, so the drawing would have no text"));
     const QByteArray drawing = format->draw(KTPreviewPainter(*model), model->title);
     if (drawing.isEmpty())
-        return fail(QStringLiteral("the drawing cannot be made"));
+        return fail(KTToolText::tr("the drawing cannot be made"));
     const QString error = KTFileName::replaceFile(output, drawing);
     if (!error.isEmpty())
         return fail(error);

@@ -1,6 +1,7 @@
 #include "KTRereadableFile.h"
 
 #include "KTFileName.h"
+#include "KTToolText.h"
 
 #include <QTemporaryFile>
 
@@ -36,7 +37,7 @@ protected:
             return myStream->atEnd() ? 0 : -1;
         }
         if (!myCopy.seek(myCopied) || myCopy.write(data, length) != length || !myCopy.flush()) {
-            setErrorString(QStringLiteral("no room for a copy: %1").arg(myCopy.errorString()));
+            setErrorString(KTToolText::tr("no room for a copy: %1").arg(myCopy.errorString()));
             return -1;
         }
         myCopied += length;

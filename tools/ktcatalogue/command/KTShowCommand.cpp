@@ -6,6 +6,7 @@
 #include "KTCommandLine.h"
 #include "KTConsole.h"
 #include "KTSpool.h"
+#include "KTToolText.h"
 
 namespace {
 
@@ -19,12 +20,12 @@ KTExitCode KTShowCommand::run(const QStringList &arguments)
 {
     KTCommandLine commandLine(
         QStringLiteral("show"),
-        QStringLiteral("Shows what the library makes of each article: its number, classifications, "
+        KTToolText::tr("Shows what the library makes of each article: its number, classifications, "
                        "page counts, layout and options, the default choice and the box styles."),
         QStringLiteral("examples/catalogue.xml --article 7301 --pages 30"));
     KTArticleRequest request(
         &commandLine, KTArticleRequest::Article::Optional,
-        QStringLiteral("What becomes of a wish for N pages, and how wide the spine is then; "
+        KTToolText::tr("What becomes of a wish for N pages, and how wide the spine is then; "
                        "may be given several times."));
     commandLine.addFormats({TEXT_FORMAT, JSON_FORMAT});
     if (const auto code = commandLine.parse(arguments))

@@ -1,6 +1,7 @@
 #include "KTArticleReport.h"
 
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <KTArithmetic.h>
 #include <KTArticleDescription.h>
@@ -71,10 +72,10 @@ int widest(const QVector<Row> &rows, Getter getter)
 QStringList optionLines(const QVector<Row> &rows)
 {
     if (rows.isEmpty())
-        return {line(OPTIONS, QStringLiteral("none"))};
+        return {line(KTToolText::tr("options"), KTToolText::tr("none"))};
     const int valueWidth = widest(rows, [](const Row &row) { return row.label; });
     const int nameWidth = widest(rows, [](const Row &row) { return row.value; });
-    QStringList lines {line(OPTIONS, QString())};
+    QStringList lines {line(KTToolText::tr("options"), QString())};
     QMap<QString, QVector<const Row *>> byKey;
     for (const Row &row : rows)
         byKey[fact(row, "key")].append(&row);

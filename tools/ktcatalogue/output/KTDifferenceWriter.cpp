@@ -4,6 +4,7 @@
 #include "KTMarkdownText.h"
 #include "KTOrderText.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <QCoreApplication>
 #include <QIODevice>
@@ -37,15 +38,15 @@ Kind kindOf(const KTDifference &difference)
     return KTDifferenceRules::row(difference.rule).kind;
 }
 
-QString counted(qint64 count, const QString &what)
+QString countedOrders(qint64 count)
 {
-    return QStringLiteral("%1 %2%3").arg(count).arg(what, count == 1 ? QString() : QStringLiteral("s"));
+    return (count == 1 ? KTToolText::tr("%1 saved order") : KTToolText::tr("%1 saved orders")).arg(count);
 }
 
 /** "3 saved orders" */
 QString hitText(qint64 hits)
 {
-    return hits == 0 ? QStringLiteral("no saved order") : counted(hits, QStringLiteral("saved order"));
+    return hits == 0 ? KTToolText::tr("no saved order") : countedOrders(hits);
 }
 
 QString capitalized(const QString &word)
@@ -56,13 +57,12 @@ QString capitalized(const QString &word)
 /** What became of the saved orders, as a sentence. */
 QString sentence(const KTOrderCounts &orders)
 {
-    QString text = QStringLiteral("%1 of %2 in %3 can no longer be ordered as saved")
-                       .arg(QString::number(orders.broken),
-                            counted(orders.orders, QStringLiteral("saved order")), orders.fileName);
+    QString text = KTToolText::tr("%1 of %2 in %3 can no longer be ordered as saved")
+                       .arg(QString::number(orders.broken), countedOrders(orders.orders), orders.fileName);
     if (orders.refusedBefore > 0)
-        text += QStringLiteral("; %1 could not before either").arg(orders.refusedBefore);
+        text += KTToolText::tr("; %1 could not before either").arg(orders.refusedBefore);
     if (orders.malformed > 0)
-        text += QStringLiteral("; lines that are no orders: %1").arg(orders.malformed);
+        text += KTToolText::tr("; lines that are no orders: %1").arg(orders.malformed);
     return text;
 }
 
@@ -101,7 +101,7 @@ protected:
     {
         QString text = KTTerminalText::escaped(sentence(*orders()));
         if (orders()->listed < orders()->broken && orders()->listed > 0)
-            text += QStringLiteral("; the first of them (%1):").arg(orders()->listed);
+            text += KTToolText::tr("; the first of them (%1):").arg(orders()->listed);
         else
             text += orders()->listed > 0 ? QStringLiteral(":") : QStringLiteral(".");
         return text + QLatin1Char('\n');
@@ -119,7 +119,7 @@ protected:
                     .arg(KTTerminalText::escaped(difference.message),
                          KTDifferenceRules::name(difference.rule));
         if (hits)
-            text += QStringLiteral("        hits %1\n").arg(hitText(*hits));
+            text += KTToolText::tr("        hits %1\n").arg(hitText(*hits));
         QStringList places;
         if (difference.olderRange.begin.line > 0)
             places.append(place(options().olderName, difference.olderRange));
@@ -155,14 +155,14 @@ public:
 protected:
     QString head() const override
     {
-        const QString title = QStringLiteral("### Catalogue changes: %1\n\n").arg(counts().toText());
+        const QString title = KTToolText::tr("### Catalogue changes: %1\n\n").arg(counts().toText());
         QString text = title
-            + QStringLiteral("From %1 to %2.\n")
+            + KTToolText::tr("From %1 to %2.\n")
                   .arg(KTMarkdownText::escaped(options().olderName),
                        KTMarkdownText::escaped(options().newerName));
         if (counts().total() == 0)
             return text;
-        text += QStringLiteral("\n| Kind | Changes | |\n| :--- | ---: | :--- |\n");
+        text += KTToolText::tr("\n| Kind | Changes | |\n| :--- | ---: | :--- |\n");
         for (const Kind kind : KINDS_BY_GRAVITY) {
             if (counts().of(kind) > 0)
                 text += QStringLiteral("| %1 | %2 | %3 |\n")
@@ -176,11 +176,13 @@ protected:
 
     QString kindHead(Kind kind) const override
     {
-        const QString begin = QStringLiteral("\n<details>\n<summary><b>%1</b>: %2</summary>\n\n")
-                                  .arg(capitalized(KTDifferenceRules::name(kind)),
-                                       counted(counts().of(kind), QStringLiteral("change")));
+        const QString begin
+            = QStringLiteral("\n<details>\n<summary><b>%1</b>: %2</summary>\n\n")
+                  .arg(capitalized(KTDifferenceRules::name(kind)),
+                       (counts().of(kind) == 1 ? KTToolText::tr("%1 change") : KTToolText::tr("%1 changes"))
+                           .arg(counts().of(kind)));
         if (options().isSummary) {
-            QString text = begin + QStringLiteral("| Rule | Changes |\n| :--- | ---: |\n");
+            QString text = begin + KTToolText::tr("| Rule | Changes |\n| :--- | ---: |\n");
             for (int i = 0; i < KTDifferenceRules::COUNT; ++i) {
                 const KTDifferenceRuleRow &row = KTDifferenceRules::at(i);
                 if (row.kind == kind && counts().of(row.rule) > 0)
@@ -192,9 +194,9 @@ protected:
         }
         return begin
             + (hasHits(kind)
-                   ? QStringLiteral("| Article | Change | Saved orders | Rule | Old line | New line |\n"
+                   ? KTToolText::tr("| Article | Change | Saved orders | Rule | Old line | New line |\n"
                                     "| :--- | :--- | ---: | :--- | ---: | ---: |\n")
-                   : QStringLiteral("| Article | Change | Rule | Old line | New line |\n"
+                   : KTToolText::tr("| Article | Change | Rule | Old line | New line |\n"
                                     "| :--- | :--- | :--- | ---: | ---: |\n"));
     }
 
@@ -203,13 +205,13 @@ protected:
     QString ordersHead() const override
     {
         QString text
-            = QStringLiteral("\n**Saved orders:** %1.\n").arg(KTMarkdownText::escaped(sentence(*orders())));
+            = KTToolText::tr("\n**Saved orders:** %1.\n").arg(KTMarkdownText::escaped(sentence(*orders())));
         if (orders()->listed > 0)
-            text += QStringLiteral("\n<details>\n<summary>%1</summary>\n\n"
+            text += KTToolText::tr("\n<details>\n<summary>%1</summary>\n\n"
                                    "| Line | Article | Problem | Nearest |\n| ---: | ---: | :--- | :--- |\n")
                         .arg(orders()->listed < orders()->broken
-                                 ? QStringLiteral("The first %1 of them").arg(orders()->listed)
-                                 : QStringLiteral("These orders"));
+                                 ? KTToolText::tr("The first %1 of them").arg(orders()->listed)
+                                 : KTToolText::tr("These orders"));
         return text;
     }
 
@@ -375,9 +377,9 @@ protected:
             };
         };
         QString text
-            = QStringLiteral("article %1: %2").arg(QString::number(difference.articleId), difference.message);
+            = KTToolText::tr("article %1: %2").arg(QString::number(difference.articleId), difference.message);
         if (hits)
-            text += QStringLiteral("; hits %1").arg(hitText(*hits));
+            text += KTToolText::tr("; hits %1").arg(hitText(*hits));
         QJsonObject newer = location(options().newerName, difference.newerRange);
         newer.insert(
             QStringLiteral("logicalLocations"),
@@ -393,7 +395,7 @@ protected:
         };
         if (difference.olderRange.begin.line > 0) {
             QJsonObject older = location(options().olderName, difference.olderRange);
-            older.insert(QStringLiteral("message"), message(QStringLiteral("as it was")));
+            older.insert(QStringLiteral("message"), message(KTToolText::tr("as it was")));
             result.insert(QStringLiteral("relatedLocations"), QJsonArray {older});
         }
         return QLatin1Char('\n') + compactJson(result);
@@ -480,7 +482,7 @@ QString KTDifferenceCounts::toText() const
         if (of(kind) > 0)
             parts.append(QStringLiteral("%1 %2").arg(of(kind)).arg(KTDifferenceRules::name(kind)));
     }
-    return parts.isEmpty() ? QStringLiteral("no difference") : parts.join(QStringLiteral(", "));
+    return parts.isEmpty() ? KTToolText::tr("no difference") : parts.join(QStringLiteral(", "));
 }
 
 std::unique_ptr<KTDifferenceWriter> KTDifferenceWriter::create(const Options &options)

@@ -2,6 +2,7 @@
 
 #include "KTFileName.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -31,11 +32,6 @@ QLatin1String color(KTSeverity severity)
         break;
     }
     return QLatin1String("\033[1;36m");
-}
-
-QString counted(int count, const QString &what)
-{
-    return QStringLiteral("%1 %2%3").arg(count).arg(what, count == 1 ? QString() : QStringLiteral("s"));
 }
 
 /** On one line, everything visible that a terminal would obey. */
@@ -259,12 +255,13 @@ QString KTFindingCounts::toText() const
 {
     QStringList parts;
     if (errors > 0)
-        parts.append(counted(errors, QStringLiteral("error")));
+        parts.append((errors == 1 ? KTToolText::tr("%1 error") : KTToolText::tr("%1 errors")).arg(errors));
     if (warnings > 0)
-        parts.append(counted(warnings, QStringLiteral("warning")));
+        parts.append(
+            (warnings == 1 ? KTToolText::tr("%1 warning") : KTToolText::tr("%1 warnings")).arg(warnings));
     if (hints > 0)
-        parts.append(counted(hints, QStringLiteral("hint")));
-    return parts.isEmpty() ? QStringLiteral("nothing found") : parts.join(QStringLiteral(", "));
+        parts.append((hints == 1 ? KTToolText::tr("%1 hint") : KTToolText::tr("%1 hints")).arg(hints));
+    return parts.isEmpty() ? KTToolText::tr("nothing found") : parts.join(QStringLiteral(", "));
 }
 
 std::unique_ptr<KTFindingWriter> KTFindingWriter::create(const QString &format, bool color)

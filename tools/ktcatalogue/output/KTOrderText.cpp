@@ -2,6 +2,7 @@
 
 #include "KTMarkdownText.h"
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <QJsonArray>
 
@@ -12,16 +13,16 @@ QString choice(const KTSavedOrder &order)
 {
     QStringList parts;
     if (order.pages)
-        parts.append(QStringLiteral("%1 pages").arg(*order.pages));
+        parts.append(KTToolText::tr("%1 pages").arg(*order.pages));
     if (!order.mcf.isEmpty())
         parts.append(order.mcf);
-    return parts.isEmpty() ? QStringLiteral("the article without options") : parts.join(QStringLiteral(", "));
+    return parts.isEmpty() ? KTToolText::tr("the article without options") : parts.join(QStringLiteral(", "));
 }
 
 QString nearestText(const KTSavedOrder &order, const KTOrderVerdict &verdict)
 {
     const std::optional<KTSavedOrder> nearest = KTOrderCheck::nearest(order, verdict);
-    return nearest ? choice(*nearest) : QStringLiteral("nothing");
+    return nearest ? choice(*nearest) : KTToolText::tr("nothing");
 }
 
 } // namespace
@@ -30,13 +31,13 @@ QString KTOrderText::lines(const QString &fileName, const KTSavedOrder &order, c
 {
     QString text;
     for (const KTOrderProblem &problem : verdict.problems) {
-        text += QStringLiteral("%1:%2: article %3 %4 [%5]\n")
+        text += KTToolText::tr("%1:%2: article %3 %4 [%5]\n")
                     .arg(KTTerminalText::escaped(fileName), QString::number(order.line),
                          QString::number(order.articleId), KTTerminalText::escaped(problem.text),
                          KTOrderProblem::name(problem.reason));
     }
     if (verdict.draft)
-        text += QStringLiteral("    nearest: %1\n").arg(KTTerminalText::escaped(nearestText(order, verdict)));
+        text += KTToolText::tr("    nearest: %1\n").arg(KTTerminalText::escaped(nearestText(order, verdict)));
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include "KTPreviewModel.h"
 
 #include "KTTerminalText.h"
+#include "KTToolText.h"
 
 #include <KTArithmetic.h>
 #include <KTArticle.h>
@@ -46,7 +47,7 @@ bool isDrawable(const QSize &size)
 
 QString objectionTo(const QString &part, const QString &size)
 {
-    return QStringLiteral("has a %1 of %2 mm; a preview shows sides from %3 to %4 mm")
+    return KTToolText::tr("has a %1 of %2 mm; a preview shows sides from %3 to %4 mm")
         .arg(part, size, KTMillimeterText::text(KTPreviewModel::MIN_LENGTH),
              KTMillimeterText::text(KTPreviewModel::MAX_LENGTH));
 }
@@ -56,16 +57,16 @@ QString objectionTo(const Page &page)
 {
     const QString kind = page.context.pageType().encode();
     if (!isDrawable(page.size.usableSize()))
-        return objectionTo(QStringLiteral("page '%1'").arg(kind), millimeters(page.size.usableSize()));
+        return objectionTo(KTToolText::tr("page '%1'").arg(kind), millimeters(page.size.usableSize()));
     const KTMargins bleed = page.size.bleedMargins();
     for (const int margin : {bleed.top(), bleed.bottom(), bleed.left(), bleed.right()}) {
         if (!isDrawable(margin, 0.0))
-            return QStringLiteral("has a bleed of %1 mm; a preview shows 0.0 to %2 mm")
+            return KTToolText::tr("has a bleed of %1 mm; a preview shows 0.0 to %2 mm")
                 .arg(KTMillimeterText::text(margin), KTMillimeterText::text(KTPreviewModel::MAX_LENGTH));
     }
     const QSize slipcase = page.size.usableSlipcaseCoverSize();
     if (slipcase != QSize(-1, -1) && !isDrawable(slipcase))
-        return objectionTo(QStringLiteral("slipcase cover"), millimeters(slipcase));
+        return objectionTo(KTToolText::tr("slipcase cover"), millimeters(slipcase));
     return QString();
 }
 
@@ -163,25 +164,25 @@ void addSizes(KTPreviewModel *model, const Page &front, int pages)
     const KTPreviewModel::Panel &first = cover.panels.constFirst();
     const KTPreviewModel::Panel &last = cover.panels.constLast();
     if (first.name != last.name && first.usable.size() == last.usable.size()) {
-        add(QStringLiteral("Back and front, each"), millimeters(first.usable.size()));
+        add(KTToolText::tr("Back and front, each"), millimeters(first.usable.size()));
     } else {
         for (const KTPreviewModel::Panel &panel : cover.panels)
             add(panel.name, millimeters(panel.usable.size()));
     }
     if (!cover.spine.isEmpty())
-        add(QStringLiteral("Spine at %1 pages").arg(pages), KTMillimeterText::text(cover.spine.width()));
+        add(KTToolText::tr("Spine at %1 pages").arg(pages), KTMillimeterText::text(cover.spine.width()));
     if (cover.additionalSpineWidth > 0.0)
-        add(QStringLiteral("added on each side"), KTMillimeterText::text(cover.additionalSpineWidth));
-    add(QStringLiteral("With bleed"), millimeters(cover.total.size()));
+        add(KTToolText::tr("added on each side"), KTMillimeterText::text(cover.additionalSpineWidth));
+    add(KTToolText::tr("With bleed"), millimeters(cover.total.size()));
     const KTMargins bleed = front.size.bleedMargins();
-    add(QStringLiteral("Bleed top, bottom"),
+    add(KTToolText::tr("Bleed top, bottom"),
         QStringLiteral("%1, %2").arg(KTMillimeterText::text(bleed.top()),
                                      KTMillimeterText::text(bleed.bottom())));
-    add(QStringLiteral("Bleed left, right"),
+    add(KTToolText::tr("Bleed left, right"),
         QStringLiteral("%1, %2").arg(KTMillimeterText::text(bleed.left()),
                                      KTMillimeterText::text(bleed.right())));
     if (!last.slipcase.isEmpty())
-        add(QStringLiteral("Slipcase cover"), millimeters(last.slipcase.size()));
+        add(KTToolText::tr("Slipcase cover"), millimeters(last.slipcase.size()));
 }
 
 /** Puts each barcode on the figure of its page, or into the notes. */
@@ -195,26 +196,26 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
     for (const KTBarcodeDefinition &barcode : article.barcodes()) {
         const int pageNr = barcode.pageNr();
         const auto note = [&](const QString &reason) {
-            model->notes.append(QStringLiteral("Barcode on page %1: %2").arg(pageNr).arg(reason));
+            model->notes.append(KTToolText::tr("Barcode on page %1: %2").arg(pageNr).arg(reason));
         };
         if (pageNr < COVER_PAGE || pageNr > std::max(COVER_PAGE, pages)) {
-            note(QStringLiteral("no such page"));
+            note(KTToolText::tr("no such page"));
             continue;
         }
         if (!figureOfPage.contains(pageNr)) {
             if (!inner || figureOfPage.size() > MAX_INNER_PAGES) {
-                note(inner ? QStringLiteral("not drawn") : QStringLiteral("its size is not known"));
+                note(inner ? KTToolText::tr("not drawn") : KTToolText::tr("its size is not known"));
                 continue;
             }
             figureOfPage.insert(pageNr, KTArithmetic::sizeOf(model->figures));
-            model->figures.append(figureOf(*inner, QStringLiteral("Page %1").arg(pageNr)));
+            model->figures.append(figureOf(*inner, KTToolText::tr("Page %1").arg(pageNr)));
         }
         KTPreviewModel::Figure &figure = model->figures[figureOfPage.value(pageNr)];
         const QRectF rect = exactRect(barcode.rect()).translated(figure.panels.constFirst().usable.topLeft());
         if (figure.total.contains(rect))
             figure.barcodes.append({rect, pageNr, barcode.image()});
         else
-            note(QStringLiteral("outside, at %1, %2")
+            note(KTToolText::tr("outside, at %1, %2")
                      .arg(KTMillimeterText::text(barcode.rect().left()),
                           KTMillimeterText::text(barcode.rect().top())));
     }
@@ -223,7 +224,7 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
             model->sizes.append({figure.name, millimeters(figure.panels.constFirst().usable.size())});
         for (const KTPreviewModel::Barcode &barcode : figure.barcodes)
             model->sizes.append(
-                {QStringLiteral("Barcode on page %1").arg(barcode.pageNr), millimeters(barcode.rect.size())});
+                {KTToolText::tr("Barcode on page %1").arg(barcode.pageNr), millimeters(barcode.rect.size())});
     }
 }
 
@@ -231,7 +232,7 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
 
 std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, int pages, QString *objection)
 {
-    *objection = article.pages().isEmpty() ? QStringLiteral("has no page sizes") : QString();
+    *objection = article.pages().isEmpty() ? KTToolText::tr("has no page sizes") : QString();
     for (const Page &page : article.pages()) {
         if (objection->isEmpty())
             *objection = objectionTo(page);
@@ -248,7 +249,7 @@ std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, i
             ? article.spine().spineWidth(static_cast<unsigned int>(std::max(0, pages))).layoutUnits()
             : 0.0;
         if (!isDrawable(width, 0.0)) {
-            *objection = QStringLiteral("has a spine of %1 mm; a preview shows 0.0 to %2 mm")
+            *objection = KTToolText::tr("has a spine of %1 mm; a preview shows 0.0 to %2 mm")
                              .arg(KTMillimeterText::text(width), KTMillimeterText::text(MAX_LENGTH));
             return std::nullopt;
         }

@@ -1,5 +1,7 @@
 #include "KTPreviewPainter.h"
 
+#include "KTToolText.h"
+
 #include <KTArithmetic.h>
 
 #include <QFontMetricsF>
@@ -223,7 +225,7 @@ void KTPreviewPainter::paintTitle(QPainter *painter) const
     line(sized(myFont, TITLE_SIZE, true), MARGIN + 45, CONTENT_WIDTH, myModel.title);
     painter->setPen(QColor::fromRgba(FAINT_INK));
     line(sized(myFont, TEXT_SIZE + 4), MARGIN + 105, CONTENT_WIDTH * 0.7,
-         QStringLiteral("%1.  Scale 1 : %2, all lengths in millimetres.").arg(myModel.subtitle).arg(myScale));
+         KTToolText::tr("%1.  Scale 1 : %2, all lengths in millimetres.").arg(myModel.subtitle).arg(myScale));
 }
 
 /** The longest bar of a round length that is not in the way. */
@@ -337,7 +339,7 @@ void KTPreviewPainter::paintDimensions(QPainter *painter, const KTPreviewModel::
         const QRectF spine = scaled(figure.spine, corner);
         paintDimension(painter, QPointF(spine.left(), bottom), spine.width(), RIGHTWARDS,
                        spine.bottom() - bottom,
-                       QStringLiteral("spine %1").arg(millimeters(figure.spine.width())));
+                       KTToolText::tr("spine %1").arg(millimeters(figure.spine.width())));
         bottom += DIMENSION_STRIP;
     }
     paintDimension(painter, QPointF(total.left(), bottom), total.width(), RIGHTWARDS, total.bottom() - bottom,
@@ -404,27 +406,27 @@ QVector<KTPreviewPainter::LegendRow> KTPreviewPainter::legend() const
     };
 
     add(LegendRow::Header, QStringLiteral("Lines"));
-    add(LegendRow::Line, QStringLiteral("outer edge with bleed"), QString(), bleedPen(),
+    add(LegendRow::Line, KTToolText::tr("outer edge with bleed"), QString(), bleedPen(),
         QColor::fromRgba(BLEED_FILL));
-    add(LegendRow::Line, QStringLiteral("usable area"), QString(), usablePen(), Qt::white);
+    add(LegendRow::Line, KTToolText::tr("usable area"), QString(), usablePen(), Qt::white);
     if (!myModel.figures.constFirst().spine.isEmpty())
         add(LegendRow::Line, QStringLiteral("spine"), QString(), usablePen(), QColor::fromRgba(SPINE_FILL));
     if (myModel.figures.constFirst().additionalSpineWidth > 0.0)
-        add(LegendRow::Line, QStringLiteral("additional width"), QString(), foldPen(),
+        add(LegendRow::Line, KTToolText::tr("additional width"), QString(), foldPen(),
             QColor::fromRgba(SPINE_FILL));
     if (contains([](const auto &figure) { return !figure.panels.constLast().slipcase.isEmpty(); }))
-        add(LegendRow::Line, QStringLiteral("slipcase cover"), QString(), slipcasePen(), Qt::white);
+        add(LegendRow::Line, KTToolText::tr("slipcase cover"), QString(), slipcasePen(), Qt::white);
     if (contains([](const auto &figure) {
             return std::any_of(figure.barcodes.begin(), figure.barcodes.end(),
                                [](const auto &barcode) { return barcode.image.isNull(); });
         }))
-        add(LegendRow::Hatch, QStringLiteral("barcode without image"));
+        add(LegendRow::Hatch, KTToolText::tr("barcode without image"));
 
-    add(LegendRow::Header, QStringLiteral("Sizes in mm"));
+    add(LegendRow::Header, KTToolText::tr("Sizes in mm"));
     for (const QPair<QString, QString> &size : myModel.sizes)
         add(LegendRow::Text, size.first, size.second);
     if (!myModel.notes.isEmpty())
-        add(LegendRow::Header, QStringLiteral("Not drawn"));
+        add(LegendRow::Header, KTToolText::tr("Not drawn"));
     for (const QString &note : myModel.notes)
         add(LegendRow::Text, note);
     for (const KTPreviewModel::OptionGroup &group : myModel.optionGroups) {
@@ -487,7 +489,7 @@ QVector<KTPreviewPainter::PlacedRow> KTPreviewPainter::placedLegend(int *rowsPer
     }
     *rowsPerColumn = MAX_ROWS_PER_COLUMN;
     placed.last().row
-        = {LegendRow::Text, QStringLiteral("... and %1 more").arg(rows.size() - placed.size() + 1),
+        = {LegendRow::Text, KTToolText::tr("... and %1 more").arg(rows.size() - placed.size() + 1),
            QString(),       QPen(),
            QColor(),        false};
     return placed;
