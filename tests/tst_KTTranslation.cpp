@@ -7,6 +7,10 @@
 
 #include "KTTranslationFile.h"
 
+#include <QThread>
+
+#include <memory>
+
 namespace {
 
 QString pageCountText(bool countsPhotos)
@@ -31,6 +35,11 @@ private Q_SLOTS:
         QCOMPARE(pageCountText(false), u"30 Seiten"_s);
         QVERIFY(KTTranslation::install(QLocale(QLocale::English, QLocale::UnitedStates)));
         QCOMPARE(pageCountText(false), u"30 pages"_s);
+        bool isInstalled = true;
+        const std::unique_ptr<QThread> thread(
+            QThread::create([&] { isInstalled = KTTranslation::install(QLocale(QLocale::German)); }));
+        thread->start();
+        QVERIFY(thread->wait() && !isInstalled);
         // A language that is not there leaves the one that is.
         QVERIFY(!KTTranslation::install(QLocale(QLocale::French)));
         QCOMPARE(pageCountText(true), u"30 photos"_s);

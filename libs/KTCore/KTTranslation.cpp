@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QPointer>
+#include <QThread>
 #include <QTranslator>
 
 #include <memory>
@@ -25,7 +26,7 @@ bool KTTranslation::install(const QLocale &locale)
     // The application owns what is installed, so it may be gone with a former one.
     static std::vector<QPointer<QTranslator>> myInstalled;
     QCoreApplication *const application = QCoreApplication::instance();
-    if (!application)
+    if (!application || QThread::currentThread() != application->thread())
         return false;
     const QString language = locale.name().section(u'_', 0, 0);
     std::vector<std::unique_ptr<QTranslator>> translators;

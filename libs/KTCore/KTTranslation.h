@@ -14,7 +14,7 @@ namespace KTTranslation {
 
 /**
  * Lets the application show all texts in the language of the locale, German or English: true where they are
- * there, else false, and nothing changes.
+ * there, else false, and nothing changes; false also from another thread than the application's.
  *
  * Call it in the application's thread, once there is an application object, and before the first display text
  * is asked for: tables of names are built on first use, and what they hold by then stays as it is. A language

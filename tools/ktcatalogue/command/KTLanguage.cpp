@@ -14,12 +14,23 @@ const QString OPTION = QStringLiteral("--language");
 const QString END_OF_OPTIONS = QStringLiteral("--");
 const QStringList LANGUAGES {QStringLiteral("de"), QStringLiteral("en")};
 
+/** The first language of the environment that there is; empty for none, as in the locale "C". */
 QString languageOfEnvironment()
 {
-    for (const char *const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QByteArray value = qgetenv(variable);
+    QString locale;
+    for (const char *const variable : {"LANG", "LC_MESSAGES", "LC_ALL"}) {
+        const QString value = qEnvironmentVariable(variable);
         if (!value.isEmpty())
-            return QString::fromLatin1(value.left(2));
+            locale = value;
+    }
+    // Without a locale nobody asked for a language, whatever list of them stands there.
+    if (QLocale(locale).language() == QLocale::C)
+        return QString();
+    const QStringList wanted = qEnvironmentVariable("LANGUAGE").split(u':', Qt::SkipEmptyParts) << locale;
+    for (const QString &name : wanted) {
+        QString language = QLocale(name).name().section(u'_', 0, 0);
+        if (LANGUAGES.contains(language))
+            return language;
     }
     return QString();
 }
