@@ -1,5 +1,7 @@
 #include "KTCheckRules.h"
 
+#include <KTFactRow.h>
+
 #include <iterator>
 
 namespace {
@@ -206,19 +208,12 @@ const KTRuleRow &KTCheckRules::at(int index)
 
 const KTRuleRow *KTCheckRules::find(const QString &name)
 {
-    for (const KTRuleRow &row : RULES) {
-        if (name == QLatin1String(row.name))
-            return &row;
-    }
-    return nullptr;
+    return KTFactRows::findNamed(RULES, name);
 }
 
 QStringList KTCheckRules::names()
 {
-    QStringList names;
-    for (const KTRuleRow &row : RULES)
-        names.append(QString::fromLatin1(row.name));
-    return names;
+    return KTFactRows::namesOf(RULES);
 }
 
 QString KTCheckRules::name(KTRule rule)

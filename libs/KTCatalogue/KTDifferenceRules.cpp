@@ -2,6 +2,8 @@
 
 #include "KTCatalogueText.h"
 
+#include <KTFactRow.h>
+
 #include <iterator>
 
 namespace {
@@ -278,19 +280,12 @@ const KTDifferenceRuleRow &KTDifferenceRules::at(int index)
 
 const KTDifferenceRuleRow *KTDifferenceRules::find(const QString &name)
 {
-    for (const KTDifferenceRuleRow &row : RULES) {
-        if (name == QLatin1String(row.name))
-            return &row;
-    }
-    return nullptr;
+    return KTFactRows::findNamed(RULES, name);
 }
 
 QStringList KTDifferenceRules::names()
 {
-    QStringList names;
-    for (const KTDifferenceRuleRow &row : RULES)
-        names.append(QString::fromLatin1(row.name));
-    return names;
+    return KTFactRows::namesOf(RULES);
 }
 
 QString KTDifferenceRules::name(KTDifferenceRule rule)
@@ -310,9 +305,6 @@ QString KTDifferenceRules::summary(KTDifferenceKind kind)
 
 std::optional<KTDifferenceKind> KTDifferenceRules::findKind(const QString &name)
 {
-    for (const KindRow &row : KINDS) {
-        if (name == QLatin1String(row.name))
-            return row.kind;
-    }
-    return std::nullopt;
+    const KindRow *const row = KTFactRows::findNamed(KINDS, name);
+    return row ? std::make_optional(row->kind) : std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 
@@ -27,6 +28,27 @@ constexpr const ROW &find(const ROW (&rows)[N], VALUE value, const ROW &fallback
             return row;
     }
     return fallback;
+}
+
+/** The row whose member "name" is the name; null for a name that none has. */
+template <typename ROW, std::size_t N>
+const ROW *findNamed(const ROW (&rows)[N], const QString &name)
+{
+    for (const ROW &row : rows) {
+        if (name == QLatin1String(row.name))
+            return &row;
+    }
+    return nullptr;
+}
+
+/** The rows' names, in their order. */
+template <typename ROW, std::size_t N>
+QStringList namesOf(const ROW (&rows)[N])
+{
+    QStringList names;
+    for (const ROW &row : rows)
+        names.append(QString::fromLatin1(row.name));
+    return names;
 }
 
 /** A new table of the rows' texts, each translated now in the context; the caller owns it. */

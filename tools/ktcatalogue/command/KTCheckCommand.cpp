@@ -4,13 +4,14 @@
 #include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTFindingWriter.h"
+#include "KTLogSilence.h"
 #include "KTParallelCheck.h"
+#include "KTRuleOptions.h"
 #include "KTToolText.h"
 
 #include <KTArithmetic.h>
 #include <KTCatalogueChecker.h>
 #include <KTCatalogueText.h>
-#include <KTNearestWord.h>
 
 #include <QFile>
 
@@ -23,20 +24,16 @@ namespace {
 
 const QString FILES_FROM = QStringLiteral("files-from");
 const QString FAIL_ON = QStringLiteral("fail-on");
-const QString IGNORE = QStringLiteral("ignore");
 const QString ERROR = QStringLiteral("error");
 const QString PEDANTIC = QStringLiteral("pedantic");
 const QString MAX_FINDINGS = QStringLiteral("max-findings");
 const QString JOBS = QStringLiteral("j");
 const QString QUIET = QStringLiteral("quiet");
-const QString LIST_RULES = QStringLiteral("list-rules");
-const QString EXPLAIN = QStringLiteral("explain");
 const QString COLOR = QStringLiteral("color");
 
 const QString NEVER = QStringLiteral("never");
 const QString AUTO = QStringLiteral("auto");
 const QString ALWAYS = QStringLiteral("always");
-constexpr QChar SEPARATOR = u',';
 constexpr KTSeverity SEVERITIES[] = {KTSeverity::Error, KTSeverity::Warning, KTSeverity::Hint};
 
 struct Options
@@ -52,80 +49,44 @@ struct Options
     int jobs = 1;
 };
 
-struct OptionRow
-{
-    const QString &name;
-    /** Empty for an option without a value. */
-    const char *valueName;
-    const char *defaultValue;
-    const char *description;
+const KTOptionRow OPTIONS[] = {
+    optionRow(
+        FILES_FROM, "FILE", "",
+        QT_TRANSLATE_NOOP("KTToolText", "Further files, named in FILE line by line; - for standard input.")),
+    optionRow(FAIL_ON, "SEVERITY", "warning",
+              QT_TRANSLATE_NOOP(
+                  "KTToolText",
+                  "The least severity for exit code 1: error, warning (the default), hint or never.")),
+    optionRow(KTRuleOptions::IGNORE, "RULE", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Leaves out a rule, or several, separated by commas.")),
+    optionRow(ERROR, "RULE", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Takes the findings of a rule, or of several, as errors.")),
+    optionRow(PEDANTIC, "", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Takes warnings as errors and hints as warnings.")),
+    optionRow(
+        JOBS, "N", "1",
+        QT_TRANSLATE_NOOP("KTToolText", "Checks N files at once; the output stays the same. 1 by default.")),
+    optionRow(MAX_FINDINGS, "N", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Shows the first N findings; all of them are counted.")),
+    optionRow(QUIET, "", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Neither summary nor progress on standard error.")),
+    optionRow(KTRuleOptions::LIST_RULES, "", "", QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")),
+    optionRow(KTRuleOptions::EXPLAIN, "RULE", "", QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")),
+    optionRow(
+        COLOR, "WHEN", "auto",
+        QT_TRANSLATE_NOOP("KTToolText",
+                          "auto (the default: on a terminal, unless NO_COLOR is set), always or never.")),
 };
 
-const OptionRow OPTIONS[] = {
-    {FILES_FROM,   "FILE",     "",
-     QT_TRANSLATE_NOOP("KTToolText",                                      "Further files, named in FILE line by line; - for standard input.")},
-    {FAIL_ON,      "SEVERITY", "warning",
-     QT_TRANSLATE_NOOP("KTToolText",
-     "The least severity for exit code 1: error, warning (the default), hint or never.")                                                     },
-    {IGNORE,       "RULE",     "",
-     QT_TRANSLATE_NOOP("KTToolText",                                      "Leaves out a rule, or several, separated by commas.")             },
-    {ERROR,        "RULE",     "",
-     QT_TRANSLATE_NOOP("KTToolText",                                      "Takes the findings of a rule, or of several, as errors.")         },
-    {PEDANTIC,     "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Takes warnings as errors and hints as warnings.")                 },
-    {JOBS,         "N",        "1",
-     QT_TRANSLATE_NOOP("KTToolText",                                      "Checks N files at once; the output stays the same. 1 by default.")},
-    {MAX_FINDINGS, "N",        "",
-     QT_TRANSLATE_NOOP("KTToolText",                                      "Shows the first N findings; all of them are counted.")            },
-    {QUIET,        "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Neither summary nor progress on standard error.")                 },
-    {LIST_RULES,   "",         "",        QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")                                                },
-    {EXPLAIN,      "RULE",     "",        QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")                                                },
-    {COLOR,        "WHEN",     "auto",
-     QT_TRANSLATE_NOOP("KTToolText",
-     "auto (the default: on a terminal, unless NO_COLOR is set), always or never.")                                                          },
-};
-
-void addOptions(QCommandLineParser *parser)
+KTRuleOptions ruleOptions()
 {
-    for (const OptionRow &row : OPTIONS) {
-        QCommandLineOption option(row.name, KTToolText::tr(row.description),
-                                  QString::fromLatin1(row.valueName));
-        if (*row.defaultValue)
-            option.setDefaultValue(QString::fromLatin1(row.defaultValue));
-        parser->addOption(option);
-    }
-}
-
-/** Reports a rule that does not exist. */
-const KTRuleRow *findRule(const QString &name)
-{
-    const KTRuleRow *const row = KTCheckRules::find(name);
-    if (!row) {
-        const QString nearest = KTNearestWord::find(name, KTCheckRules::names());
-        KTConsole::failUsage(
-            KTToolText::tr("there is no rule '%1'").arg(name)
-            + (nearest.isEmpty() ? QString() : KTToolText::tr(", did you mean '%1'?").arg(nearest)));
-    }
-    return row;
-}
-
-QString ruleList()
-{
-    QString text;
+    QVector<KTRuleOptions::Rule> rules;
     for (int i = 0; i < KTCheckRules::COUNT; ++i) {
         const KTRuleRow &row = KTCheckRules::at(i);
-        text += QStringLiteral("%1 %2 %3\n")
-                    .arg(QString::fromLatin1(row.name), -20)
-                    .arg(KTCheckRules::name(row.severity), -8)
-                    .arg(KTCatalogueText::tr(row.summary));
+        rules.append({QString::fromLatin1(row.name), KTCheckRules::name(row.severity),
+                      KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation)});
     }
-    return text;
-}
-
-QString explanation(const KTRuleRow &row)
-{
-    return QStringLiteral("%1 (%2): %3.\n%4\n")
-        .arg(QString::fromLatin1(row.name), KTCheckRules::name(row.severity),
-             KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation));
+    return KTRuleOptions(rules);
 }
 
 /** The severity from which on findings count; an exit code for a word that is none. */
@@ -157,16 +118,15 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     options->isColored = color == ALWAYS || (color == AUTO && KTConsole::isColored());
     if (const auto code = readFailOn(parser.value(FAIL_ON), &options->failOn))
         return code;
-    const QStringList ignored = parser.values(IGNORE).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts);
-    const QStringList errors = parser.values(ERROR).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts);
-    for (const QString &name : ignored + errors) {
-        if (!findRule(name))
-            return KTExitUsage;
-    }
-    for (const QString &name : ignored)
-        options->severities.ignore(KTCheckRules::find(name)->rule);
-    for (const QString &name : errors)
-        options->severities.raiseToError(KTCheckRules::find(name)->rule);
+    const KTRuleOptions rules = ruleOptions();
+    const std::optional<QVector<int>> ignored = rules.numbers(parser, KTRuleOptions::IGNORE);
+    const std::optional<QVector<int>> errors = ignored ? rules.numbers(parser, ERROR) : std::nullopt;
+    if (!errors)
+        return KTExitUsage;
+    for (const int number : *ignored)
+        options->severities.ignore(KTCheckRules::at(number).rule);
+    for (const int number : *errors)
+        options->severities.raiseToError(KTCheckRules::at(number).rule);
     options->severities.setPedantic(parser.isSet(PEDANTIC));
     options->isQuiet = parser.isSet(QUIET);
     if (parser.isSet(MAX_FINDINGS)) {
@@ -198,9 +158,6 @@ std::optional<KTExitCode> readNames(const QString &listName, QStringList *names)
     }
     return std::nullopt;
 }
-
-/** What the library logs about the texts that it is asked about, the findings say better. */
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 /** Puts out the findings of all files as they come, and what there is to say about each file. */
 class Output
@@ -325,17 +282,13 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
                        "files that are not readable."),
         QStringLiteral("examples/catalogue.xml --fail-on=error"), KTCommandLine::Files::Any);
     commandLine.addFormats(KTFindingWriter::formats());
-    addOptions(&commandLine.parser());
+    commandLine.addOptions(OPTIONS);
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
     const QCommandLineParser &parser = commandLine.parser();
-    if (parser.isSet(LIST_RULES))
-        return KTConsole::print(ruleList());
-    if (parser.isSet(EXPLAIN)) {
-        const KTRuleRow *const row = findRule(parser.value(EXPLAIN));
-        return row ? KTConsole::print(explanation(*row)) : KTExitUsage;
-    }
+    if (const auto code = ruleOptions().answer(parser))
+        return *code;
 
     Options options;
     if (const auto code = readOptions(commandLine, &options))
@@ -348,8 +301,7 @@ KTExitCode KTCheckCommand::run(const QStringList &arguments)
     if (names.isEmpty() && !parser.isSet(FILES_FROM))
         return KTConsole::failUsage(KTToolText::tr("'check' needs a file"));
 
-    const QtMessageHandler handler = qInstallMessageHandler(&ignoreMessage);
-    const KTExitCode code = checkFiles(names, options);
-    qInstallMessageHandler(handler);
-    return code;
+    // What the library logs about the texts that it is asked about, the findings say better.
+    const KTLogSilence silence;
+    return checkFiles(names, options);
 }

@@ -62,6 +62,14 @@ std::optional<KTExitCode> KTCommandLine::parse(const QStringList &arguments)
     return std::nullopt;
 }
 
+void KTCommandLine::addOption(const KTOptionRow &row)
+{
+    QCommandLineOption option(row.name, KTToolText::tr(row.description), QString::fromLatin1(row.valueName));
+    if (*row.defaultValue)
+        option.setDefaultValue(QString::fromLatin1(row.defaultValue));
+    myParser.addOption(option);
+}
+
 /** Qt would put the options before the command, where they are not understood. */
 QString KTCommandLine::helpText() const
 {

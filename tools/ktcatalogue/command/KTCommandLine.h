@@ -6,7 +6,26 @@
 #include <QCommandLineParser>
 #include <QStringList>
 
+#include <cstddef>
 #include <optional>
+
+/** An option of a sub-command, as a row of a table. */
+struct KTOptionRow
+{
+    const QString &name;
+    /** Empty for an option without a value. */
+    const char *valueName;
+    const char *defaultValue;
+    /** Translated in the context KTToolText. */
+    const char *description;
+};
+
+/** A function, because clang-format cannot line up rows of texts that take several lines. */
+constexpr KTOptionRow optionRow(const QString &name, const char *valueName, const char *defaultValue,
+                                const char *description)
+{
+    return {name, valueName, defaultValue, description};
+}
 
 /** The arguments of one sub-command, and its help with an example. */
 class KTCommandLine
@@ -22,6 +41,12 @@ public:
     KTCommandLine(const QString &command, const QString &description, const QString &example,
                   Files files = Files::One);
 
+    template <std::size_t N>
+    void addOptions(const KTOptionRow (&rows)[N])
+    {
+        for (const KTOptionRow &row : rows)
+            addOption(row);
+    }
     /** Adds --format with the values, of which the first is the default, and its short form --json. */
     void addFormats(const QStringList &formats);
     /** The format asked for; one that does not exist is reported as wrong usage. */
@@ -53,6 +78,7 @@ public:
     KTExitCode failArticle(int articleId, const QString &objection) const;
 
 private:
+    void addOption(const KTOptionRow &row);
     QString helpText() const;
 
     QString myCommand;

@@ -6,11 +6,11 @@
 #include "KTDifferenceWriter.h"
 #include "KTFileName.h"
 #include "KTLogSilence.h"
+#include "KTRuleOptions.h"
 #include "KTToolText.h"
 
 #include <KTCatalogueComparison.h>
 #include <KTCatalogueText.h>
-#include <KTNearestWord.h>
 #include <KTOrderImpact.h>
 
 #include <QFile>
@@ -22,17 +22,13 @@
 namespace {
 
 const QString FAIL_ON = QStringLiteral("fail-on");
-const QString IGNORE = QStringLiteral("ignore");
 const QString ARTICLE = QStringLiteral("article");
 const QString SUMMARY = QStringLiteral("summary");
 const QString ORDERS = QStringLiteral("orders");
 const QString LIST_ORDERS = QStringLiteral("list-orders");
 const QString QUIET = QStringLiteral("quiet");
-const QString LIST_RULES = QStringLiteral("list-rules");
-const QString EXPLAIN = QStringLiteral("explain");
 
 const QString NEVER = QStringLiteral("never");
-constexpr QChar SEPARATOR = u',';
 
 constexpr KTDifferenceKind KINDS[]
     = {KTDifferenceKind::Breaking, KTDifferenceKind::Charge, KTDifferenceKind::Production,
@@ -52,77 +48,39 @@ struct Options
     int maximumOrders = 0;
 };
 
-struct OptionRow
-{
-    const QString &name;
-    /** Empty for an option without a value. */
-    const char *valueName;
-    const char *defaultValue;
-    const char *description;
+const KTOptionRow OPTIONS[] = {
+    optionRow(FAIL_ON, "KIND", "breaking",
+              QT_TRANSLATE_NOOP(
+                  "KTToolText",
+                  "The least kind for exit code 1: breaking (the default), charge, production, offer, "
+                  "text or never.")),
+    optionRow(KTRuleOptions::IGNORE, "RULE", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Leaves out a rule, or several, separated by commas.")),
+    optionRow(ARTICLE, "ID", "", QT_TRANSLATE_NOOP("KTToolText", "Only the article with this number.")),
+    optionRow(SUMMARY, "", "",
+              QT_TRANSLATE_NOOP("KTToolText", "Only how many differences there are of each rule.")),
+    optionRow(
+        ORDERS, "ORDERS", "",
+        QT_TRANSLATE_NOOP(
+            "KTToolText",
+            "Counts the saved orders that each breaking or charge difference hits; - for standard input.")),
+    optionRow(LIST_ORDERS, "N", "20",
+              QT_TRANSLATE_NOOP("KTToolText",
+                                "Lists the first N orders that can no longer be ordered. 20 by default.")),
+    optionRow(QUIET, "", "", QT_TRANSLATE_NOOP("KTToolText", "No summary on standard error.")),
+    optionRow(KTRuleOptions::LIST_RULES, "", "", QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")),
+    optionRow(KTRuleOptions::EXPLAIN, "RULE", "", QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")),
 };
 
-const OptionRow OPTIONS[] = {
-    {FAIL_ON,     "KIND",   "breaking",
-     QT_TRANSLATE_NOOP("KTToolText",
-     "The least kind for exit code 1: breaking (the default), charge, production, offer, "
-                       "text or never.")                                                                                                                              },
-    {IGNORE,      "RULE",   "",
-     QT_TRANSLATE_NOOP("KTToolText",                                    "Leaves out a rule, or several, separated by commas.")                                        },
-    {ARTICLE,     "ID",     "",         QT_TRANSLATE_NOOP("KTToolText", "Only the article with this number.")                                                         },
-    {SUMMARY,     "",       "",         QT_TRANSLATE_NOOP("KTToolText", "Only how many differences there are of each rule.")                                          },
-    {ORDERS,      "ORDERS", "",
-     QT_TRANSLATE_NOOP(
-         "KTToolText",                                                  "Counts the saved orders that each breaking or charge difference hits; - for standard input.")},
-    {LIST_ORDERS, "N",      "20",
-     QT_TRANSLATE_NOOP("KTToolText",
-     "Lists the first N orders that can no longer be ordered. 20 by default.")                                                                                        },
-    {QUIET,       "",       "",         QT_TRANSLATE_NOOP("KTToolText", "No summary on standard error.")                                                              },
-    {LIST_RULES,  "",       "",         QT_TRANSLATE_NOOP("KTToolText", "Lists the rules.")                                                                           },
-    {EXPLAIN,     "RULE",   "",         QT_TRANSLATE_NOOP("KTToolText", "Explains a rule.")                                                                           },
-};
-
-void addOptions(QCommandLineParser *parser)
+KTRuleOptions ruleOptions()
 {
-    for (const OptionRow &row : OPTIONS) {
-        QCommandLineOption option(row.name, KTToolText::tr(row.description),
-                                  QString::fromLatin1(row.valueName));
-        if (*row.defaultValue)
-            option.setDefaultValue(QString::fromLatin1(row.defaultValue));
-        parser->addOption(option);
-    }
-}
-
-/** Reports a rule that does not exist. */
-const KTDifferenceRuleRow *findRule(const QString &name)
-{
-    const KTDifferenceRuleRow *const row = KTDifferenceRules::find(name);
-    if (!row) {
-        const QString nearest = KTNearestWord::find(name, KTDifferenceRules::names());
-        KTConsole::failUsage(
-            KTToolText::tr("there is no rule '%1'").arg(name)
-            + (nearest.isEmpty() ? QString() : KTToolText::tr(", did you mean '%1'?").arg(nearest)));
-    }
-    return row;
-}
-
-QString ruleList()
-{
-    QString text;
+    QVector<KTRuleOptions::Rule> rules;
     for (int i = 0; i < KTDifferenceRules::COUNT; ++i) {
         const KTDifferenceRuleRow &row = KTDifferenceRules::at(i);
-        text += QStringLiteral("%1 %2 %3\n")
-                    .arg(QString::fromLatin1(row.name), -23)
-                    .arg(KTDifferenceRules::name(row.kind), -11)
-                    .arg(KTCatalogueText::tr(row.summary));
+        rules.append({QString::fromLatin1(row.name), KTDifferenceRules::name(row.kind),
+                      KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation)});
     }
-    return text;
-}
-
-QString explanation(const KTDifferenceRuleRow &row)
-{
-    return QStringLiteral("%1 (%2): %3.\n%4\n")
-        .arg(QString::fromLatin1(row.name), KTDifferenceRules::name(row.kind),
-             KTCatalogueText::tr(row.summary), KTCatalogueText::tr(row.explanation));
+    return KTRuleOptions(rules);
 }
 
 /** What is to be done; an exit code for wrong usage, which is reported. */
@@ -141,12 +99,11 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
             words.append(KTDifferenceRules::name(kind));
         return KTCommandLine::failChoice(FAIL_ON, failOn, words << NEVER);
     }
-    for (const QString &name : parser.values(IGNORE).join(SEPARATOR).split(SEPARATOR, Qt::SkipEmptyParts)) {
-        const KTDifferenceRuleRow *const row = findRule(name);
-        if (!row)
-            return KTExitUsage;
-        options->ignored.insert(static_cast<int>(row->rule));
-    }
+    const std::optional<QVector<int>> ignored = ruleOptions().numbers(parser, KTRuleOptions::IGNORE);
+    if (!ignored)
+        return KTExitUsage;
+    for (const int number : *ignored)
+        options->ignored.insert(number);
     if (parser.isSet(ARTICLE)) {
         options->articleId = KTCommandLine::number(parser, ARTICLE, 1);
         if (!options->articleId)
@@ -322,17 +279,13 @@ KTExitCode KTDiffCommand::run(const QStringList &arguments)
     commandLine.parser().addPositionalArgument(
         QStringLiteral("NEW"), KTToolText::tr("The catalogue as it is to be; - for standard input."));
     commandLine.addFormats(KTDifferenceWriter::formats());
-    addOptions(&commandLine.parser());
+    commandLine.addOptions(OPTIONS);
     if (const auto code = commandLine.parse(arguments))
         return *code;
 
     const QCommandLineParser &parser = commandLine.parser();
-    if (parser.isSet(LIST_RULES))
-        return KTConsole::print(ruleList());
-    if (parser.isSet(EXPLAIN)) {
-        const KTDifferenceRuleRow *const row = findRule(parser.value(EXPLAIN));
-        return row ? KTConsole::print(explanation(*row)) : KTExitUsage;
-    }
+    if (const auto code = ruleOptions().answer(parser))
+        return *code;
     Options options;
     if (const auto code = readOptions(commandLine, &options))
         return *code;
