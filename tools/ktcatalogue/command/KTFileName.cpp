@@ -134,6 +134,11 @@ bool KTFileName::areSame(const QString &name, const QString &other)
 
 QString KTFileName::replaceFile(const QString &name, const QByteArray &content)
 {
+    return replaceFile(name, [&content](QFile *file) { return file->write(content) == content.size(); });
+}
+
+QString KTFileName::replaceFile(const QString &name, const std::function<bool(QFile *file)> &write)
+{
     const std::optional<struct stat> status = statusOf(name);
     if (status && !S_ISREG(status->st_mode))
         return KTToolText::tr("it is no regular file");
@@ -144,7 +149,7 @@ QString KTFileName::replaceFile(const QString &name, const QByteArray &content)
         return systemError();
     QFile file;
     const bool isWritten = file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)
-        && file.write(content) == content.size() && file.flush();
+        && write(&file) && file.flush() && file.error() == QFileDevice::NoError;
     if (!isWritten) {
         // Less may be written without an error.
         QString error = file.error() == QFileDevice::NoError ? KTToolText::tr("it cannot be written whole")

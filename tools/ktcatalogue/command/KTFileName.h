@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 class QFile;
 
 /**
@@ -38,5 +40,7 @@ bool areSame(const QString &name, const QString &other);
  * than none. Nothing when that was done. Only regular files are replaced; links are followed.
  */
 [[nodiscard]] QString replaceFile(const QString &name, const QByteArray &content);
+/** The same for what the function writes; false of it means that nothing is to be replaced. */
+[[nodiscard]] QString replaceFile(const QString &name, const std::function<bool(QFile *file)> &write);
 
 } // namespace KTFileName

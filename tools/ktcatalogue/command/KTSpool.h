@@ -1,9 +1,11 @@
 #pragma once
 
+#include <KTQtTypes.h>
+
 #include <QByteArray>
+#include <QIODevice>
 #include <QTemporaryFile>
 
-class QIODevice;
 class QString;
 
 /**
@@ -26,4 +28,28 @@ private:
     QByteArray myMemory;
     QTemporaryFile myFile;
     bool myIsComplete = true;
+};
+
+/** Leads to a spool what only writes to devices, one byte behind the other. */
+class KTSpoolDevice : public QIODevice
+{
+public:
+    /** Open for writing; the spool must outlive it. */
+    explicit KTSpoolDevice(KTSpool *spool)
+        : mySpool(spool)
+    {
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *data, qint64 length) override
+    {
+        mySpool->write(QByteArray(data, static_cast<KTSize>(length)));
+        return length;
+    }
+
+private:
+    KTSpool *mySpool;
 };

@@ -16,8 +16,6 @@ using KTTerminalText::escaped;
 
 namespace {
 
-/** More pages with barcodes would make the cover too small. */
-constexpr int MAX_INNER_PAGES = 2;
 constexpr int COVER_PAGE = 0;
 
 // The first kind that an article has is what its preview shows; any page is better than none.
@@ -79,9 +77,25 @@ KTPreviewModel::Panel panelOf(const Page &page, const QString &name, const QPoin
     return panel;
 }
 
-KTPreviewModel::Figure figureOf(const Page &page, const QString &name)
+QString typeName(const KTPageType &type)
 {
+    return type.value() == 0 ? KTToolText::tr("page without type") : type.encodeCSV();
+}
+
+/** "normalpage (left)", or without what the catalogue does not say. */
+QString nameOf(const Page &page)
+{
+    const KTPageType type = page.context.pageType();
+    const KTPageAlignment alignment = page.context.alignment();
+    const QString name = typeName(type);
+    return alignment.value() == 0 ? name : QStringLiteral("%1 (%2)").arg(name, alignment.encodeCSV());
+}
+
+KTPreviewModel::Figure figureOf(const Page &page)
+{
+    const QString name = nameOf(page);
     KTPreviewModel::Figure figure;
+    figure.type = page.context.pageType();
     figure.name = name;
     figure.total = QRectF(QPointF(), page.size.totalSize());
     figure.panels = {panelOf(page, name, page.size.topLeftOffsetOfUsablePrintArea())};
@@ -95,10 +109,11 @@ KTPreviewModel::Figure spreadOf(const Page &back, const Page &front, double spin
     const KTMargins frontBleed = front.size.bleedMargins();
     const double top = std::max(backBleed.top(), frontBleed.top());
     KTPreviewModel::Figure figure;
-    figure.name = QStringLiteral("Cover");
-    figure.panels = {panelOf(back, QStringLiteral("Back"), QPointF(backBleed.left(), top))};
+    figure.type = front.context.pageType();
+    figure.name = KTToolText::tr("Cover");
+    figure.panels = {panelOf(back, KTToolText::tr("Back"), QPointF(backBleed.left(), top))};
     const QRectF left = figure.panels.constFirst().usable;
-    figure.panels.append(panelOf(front, QStringLiteral("Front"), QPointF(left.right() + spineWidth, top)));
+    figure.panels.append(panelOf(front, KTToolText::tr("Front"), QPointF(left.right() + spineWidth, top)));
     const QRectF right = figure.panels.constLast().usable;
     figure.spine = QRectF(left.right(), top, spineWidth, std::max(left.height(), right.height()));
     const double height = std::max(left.bottom() + backBleed.bottom(), right.bottom() + frontBleed.bottom());
@@ -114,8 +129,14 @@ const Page *findPage(const QVector<Page> &pages, KTPageTypeEnum kind, KTPageAlig
     return found == pages.end() ? nullptr : &*found;
 }
 
-/** The sides of the cover; one that lies alone is given twice. */
-QPair<const Page *, const Page *> coverOf(const QVector<Page> &pages)
+/** The sides of the cover; one that lies alone stands for the front. */
+struct Cover
+{
+    const Page *back;
+    const Page *front;
+};
+
+Cover coverOf(const QVector<Page> &pages)
 {
     for (const KTPageTypeEnum kind : COVER_KINDS) {
         const auto any = static_cast<KTPageAlignmentEnum>(~0);
@@ -124,9 +145,9 @@ QPair<const Page *, const Page *> coverOf(const QVector<Page> &pages)
         if (left && right)
             return {left, right};
         if (const Page *const page = findPage(pages, kind, any))
-            return {page, page};
+            return {nullptr, page};
     }
-    return {&pages.constFirst(), &pages.constFirst()};
+    return {nullptr, &pages.constFirst()};
 }
 
 /** The bounds of QRect are ints, so its far edges are off by one and may overflow. */
@@ -185,14 +206,30 @@ void addSizes(KTPreviewModel *model, const Page &front, int pages)
         add(KTToolText::tr("Slipcase cover"), millimeters(last.slipcase.size()));
 }
 
+/** The other figures, and what lies on all of them. */
+void addOtherSizes(KTPreviewModel *model, bool hasCover)
+{
+    for (const KTPreviewModel::Figure &figure : qAsConst(model->figures)) {
+        const KTPreviewModel::Panel &panel = figure.panels.constFirst();
+        if (!hasCover || &figure != &model->figures.constFirst()) {
+            model->sizes.append({figure.name, millimeters(panel.usable.size())});
+            if (figure.total.size() != panel.usable.size())
+                model->sizes.append({KTToolText::tr("with bleed"), millimeters(figure.total.size())});
+            if (!panel.slipcase.isEmpty())
+                model->sizes.append({KTToolText::tr("slipcase cover"), millimeters(panel.slipcase.size())});
+        }
+        for (const KTPreviewModel::Barcode &barcode : figure.barcodes)
+            model->sizes.append({KTToolText::tr("Barcode on page %1").arg(barcode.pageText()),
+                                 millimeters(barcode.rect.size())});
+    }
+}
+
 /** Puts each barcode on the figure of its page, or into the notes. */
 void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
 {
-    const Page *const inner
-        = findPage(article.pages(), KTPageTypeNormalpage, static_cast<KTPageAlignmentEnum>(~0));
-    QMap<int, int> figureOfPage {
-        {COVER_PAGE, 0}
-    };
+    const auto inner = std::find_if(model->figures.begin(), model->figures.end(), [](const auto &figure) {
+        return figure.type.matches(KTPageTypeNormalpage);
+    });
     for (const KTBarcodeDefinition &barcode : article.barcodes()) {
         const int pageNr = barcode.pageNr();
         const auto note = [&](const QString &reason) {
@@ -202,49 +239,75 @@ void addBarcodes(KTPreviewModel *model, const KTArticle &article, int pages)
             note(KTToolText::tr("no such page"));
             continue;
         }
-        if (!figureOfPage.contains(pageNr)) {
-            if (!inner || figureOfPage.size() > MAX_INNER_PAGES) {
-                note(inner ? KTToolText::tr("not drawn") : KTToolText::tr("its size is not known"));
-                continue;
-            }
-            figureOfPage.insert(pageNr, KTArithmetic::sizeOf(model->figures));
-            model->figures.append(figureOf(*inner, KTToolText::tr("Page %1").arg(pageNr)));
+        if (pageNr != COVER_PAGE && inner == model->figures.end()) {
+            note(KTToolText::tr("its size is not known"));
+            continue;
         }
-        KTPreviewModel::Figure &figure = model->figures[figureOfPage.value(pageNr)];
+        KTPreviewModel::Figure &figure = pageNr == COVER_PAGE ? model->figures.first() : *inner;
         const QRectF rect = exactRect(barcode.rect()).translated(figure.panels.constFirst().usable.topLeft());
-        if (figure.total.contains(rect))
-            figure.barcodes.append({rect, pageNr, barcode.image()});
-        else
+        if (!figure.total.contains(rect)) {
             note(KTToolText::tr("outside, at %1, %2")
                      .arg(KTMillimeterText::text(barcode.rect().left()),
                           KTMillimeterText::text(barcode.rect().top())));
+            continue;
+        }
+        const auto known = std::find_if(figure.barcodes.begin(), figure.barcodes.end(),
+                                        [&](const auto &other) { return other.rect == rect; });
+        if (known == figure.barcodes.end())
+            figure.barcodes.append({rect, {pageNr}, barcode.image()});
+        else
+            known->pageNrs.append(pageNr);
     }
-    for (const KTPreviewModel::Figure &figure : qAsConst(model->figures)) {
-        if (&figure != &model->figures.constFirst())
-            model->sizes.append({figure.name, millimeters(figure.panels.constFirst().usable.size())});
-        for (const KTPreviewModel::Barcode &barcode : figure.barcodes)
-            model->sizes.append(
-                {KTToolText::tr("Barcode on page %1").arg(barcode.pageNr), millimeters(barcode.rect.size())});
+}
+
+/** Adds the sizes that are no part of the cover. */
+void addOtherFigures(KTPreviewModel *model, const QVector<Page> &pages, const Cover &cover)
+{
+    int left = 0;
+    for (const Page &page : pages) {
+        if (&page == cover.back || &page == cover.front)
+            continue;
+        const QString objection = objectionTo(page);
+        if (!objection.isEmpty())
+            model->notes.append(KTToolText::tr("%1: the article %2").arg(nameOf(page), objection));
+        else if (model->figures.size() < KTPreviewModel::MAX_FIGURES)
+            model->figures.append(figureOf(page));
+        else
+            ++left;
     }
+    if (left > 0)
+        model->notes.append(KTToolText::tr("%1 more page sizes", nullptr, left).arg(left));
 }
 
 } // namespace
 
-std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, int pages, QString *objection)
+QString KTPreviewModel::Barcode::pageText() const
 {
-    *objection = article.pages().isEmpty() ? KTToolText::tr("has no page sizes") : QString();
-    for (const Page &page : article.pages()) {
-        if (objection->isEmpty())
-            *objection = objectionTo(page);
+    QVector<int> sorted = pageNrs;
+    std::sort(sorted.begin(), sorted.end());
+    QStringList numbers;
+    for (const int pageNr : qAsConst(sorted))
+        numbers.append(QString::number(pageNr));
+    return numbers.join(QStringLiteral(", "));
+}
+
+std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, int pages, QString *objection,
+                                                     const std::optional<KTPageType> &only)
+{
+    if (article.pages().isEmpty()) {
+        *objection = KTToolText::tr("has no page sizes");
+        return std::nullopt;
     }
+    const Cover cover = coverOf(article.pages());
+    const Page &front = *cover.front;
+    *objection = cover.back ? objectionTo(*cover.back) : QString();
+    if (objection->isEmpty())
+        *objection = objectionTo(front);
     if (!objection->isEmpty())
         return std::nullopt;
 
-    const auto [back, front] = coverOf(article.pages());
-    const bool isSpread = back->context.alignment().matches(KTPageAlignmentLeft)
-        && front->context.alignment().matches(KTPageAlignmentRight);
     KTPreviewModel model;
-    if (isSpread) {
+    if (cover.back) {
         const double width = article.hasSpine()
             ? article.spine().spineWidth(static_cast<unsigned int>(std::max(0, pages))).layoutUnits()
             : 0.0;
@@ -253,23 +316,34 @@ std::optional<KTPreviewModel> KTPreviewModel::create(const KTArticle &article, i
                              .arg(KTMillimeterText::text(width), KTMillimeterText::text(MAX_LENGTH));
             return std::nullopt;
         }
-        model.figures.append(spreadOf(*back, *front, width));
+        model.figures.append(spreadOf(*cover.back, front, width));
         const double additional
             = article.hasSpine() ? article.spine().additionalSpineWidth().layoutUnits() : 0.0;
         if (additional > 0.0 && additional * 2.0 < width)
             model.figures[0].additionalSpineWidth = additional;
     } else {
-        model.figures.append(figureOf(*front, front->context.pageType().encode()));
+        model.figures.append(figureOf(front));
     }
+    addOtherFigures(&model, article.pages(), cover);
 
     model.title
         = QStringLiteral("%1  %2").arg(article.articleId().toString(), escaped(article.name())).trimmed();
-    model.subtitle = QStringLiteral("%1 %2, %3")
-                         .arg(pages)
-                         .arg(pages == 1 ? QStringLiteral("page") : QStringLiteral("pages"))
-                         .arg(front->context.pageType().encode());
-    addSizes(&model, *front, pages);
+    model.subtitle = QStringLiteral("%1, %2").arg(pages == 1 ? KTToolText::tr("1 page")
+                                                             : KTToolText::tr("%1 pages").arg(pages),
+                                                  typeName(front.context.pageType()));
     addBarcodes(&model, article, pages);
+    const auto isLeftOut
+        = [&only](const Figure &figure) { return only && !figure.type.matches(only->value()); };
+    const bool hasCover = !isLeftOut(model.figures.constFirst());
+    model.figures.erase(std::remove_if(model.figures.begin(), model.figures.end(), isLeftOut),
+                        model.figures.end());
+    if (model.figures.isEmpty()) {
+        *objection = KTToolText::tr("has no page of type '%1'").arg(only->encodeCSV());
+        return std::nullopt;
+    }
+    if (hasCover)
+        addSizes(&model, front, pages);
+    addOtherSizes(&model, hasCover);
     model.optionGroups = groupsOf(article.options());
     return model;
 }

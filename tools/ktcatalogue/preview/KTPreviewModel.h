@@ -1,5 +1,7 @@
 #pragma once
 
+#include <KTPageType.h>
+
 #include <QColor>
 #include <QImage>
 #include <QRectF>
@@ -17,6 +19,8 @@ struct KTPreviewModel
     /** Longer sides are refused: they are mistakes, and would leave nothing to be seen of the rest. */
     static constexpr int MAX_LENGTH = 50000;
     static constexpr int MIN_LENGTH = 10;
+    /** More would leave no room for any; the rest stands in the notes. */
+    static constexpr int MAX_FIGURES = 24;
 
     /** One side of a cover, or a page. */
     struct Panel
@@ -29,13 +33,19 @@ struct KTPreviewModel
     struct Barcode
     {
         QRectF rect;
-        int pageNr;
+        /** The pages that have one in this place, ascending. */
+        QVector<int> pageNrs;
+        /** "12, 14" */
+        QString pageText() const;
         /** Null when there is none at its place. */
         QImage image;
     };
     /** A flat sheet with its bleed; its corner is the origin. */
     struct Figure
     {
+        /** The kind of page. */
+        KTPageType type;
+        /** Names the figure among those of the article: "Cover", "normalpage (left)". */
         QString name;
         QRectF total;
         QVector<Panel> panels;
@@ -60,11 +70,13 @@ struct KTPreviewModel
     };
 
     /**
-     * The cover first, then the pages that carry barcodes. Positions of barcodes count from the corner of the
-     * usable area, on a cover from that of its left side. Nothing when the article has no sizes, or such that
-     * cannot be drawn; the objection then says so, as a predicate of the article.
+     * The cover first, then every other page size in the order of the catalogue. Positions of barcodes count
+     * from the corner of the usable area, on a cover from that of its left side; those of other pages stand
+     * on the figure of the inside page. With kinds of pages, only figures of these. Nothing when there is no
+     * such figure, or the cover cannot be drawn; the objection then says why, as a predicate of the article.
      */
-    static std::optional<KTPreviewModel> create(const KTArticle &article, int pages, QString *objection);
+    static std::optional<KTPreviewModel> create(const KTArticle &article, int pages, QString *objection,
+                                                const std::optional<KTPageType> &only = std::nullopt);
 
     QString title;
     QString subtitle;

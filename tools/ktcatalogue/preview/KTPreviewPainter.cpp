@@ -6,6 +6,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +21,15 @@ constexpr int TITLE_HEIGHT = 190;
 constexpr int DIMENSION_STRIP = 75;
 constexpr int FIGURE_GAP = 50;
 constexpr int MAX_FIGURE_HEIGHT = 1500;
+/** Of all rows of figures, without their dimensions. */
+constexpr int MAX_FIGURES_HEIGHT = 2000;
 constexpr int LEAST_FIGURE_HEIGHT = 300;
+constexpr int TITLE_LINE_HEIGHT = 64;
+constexpr int MAX_TITLE_LINES = 3;
+constexpr int MAX_LEGEND_LINES = 6;
+/** Longer texts are cut before they are laid out, which takes time. */
+constexpr int MAX_CHARACTERS = 2000;
+constexpr int MAX_BARCODE_LABEL = 300;
 constexpr int ROW_HEIGHT = 48;
 constexpr int COLUMNS = 4;
 constexpr int COLUMN_GAP = 50;
@@ -110,6 +119,41 @@ void hatch(QPainter *painter, const QRectF &rect)
     }
 }
 
+enum class Breaks {
+    AtWords,
+    Anywhere,
+};
+
+/** The text in lines of the width. Where it needs more of them the last one ends in dots; nothing where it
+ * may not be broken within a word but would have to be. */
+QStringList wrapped(const QString &text, const QFont &font, double width, int maxLines,
+                    Breaks breaks = Breaks::Anywhere)
+{
+    const QFontMetricsF metrics(font);
+    const QString start = text.left(MAX_CHARACTERS);
+    if (metrics.horizontalAdvance(text.left(MAX_CHARACTERS)) <= width)
+        return {start};
+    QTextLayout layout(start, font);
+    QTextOption option;
+    option.setWrapMode(breaks == Breaks::AtWords ? QTextOption::WordWrap
+                                                 : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (breaks == Breaks::AtWords && line.naturalTextWidth() > width)
+            return {};
+        if (KTArithmetic::sizeOf(lines) + 1 == maxLines) {
+            lines.append(metrics.elidedText(start.mid(line.textStart()), Qt::ElideRight, width));
+            break;
+        }
+        lines.append(start.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines;
+}
+
 void drawCentred(QPainter *painter, const QPointF &center, const QString &text)
 {
     const QFontMetricsF metrics(painter->font());
@@ -127,6 +171,8 @@ struct KTPreviewPainter::LegendRow
     enum Kind {
         Header,
         Text,
+        /** The next line of a text that is too long for one. */
+        Continuation,
         Line,
         Swatch,
         Hatch,
@@ -138,6 +184,19 @@ struct KTPreviewPainter::LegendRow
     QPen pen;
     QColor color;
     bool isBold;
+
+    /** Room for the symbol before the text, in the lines below it, too. */
+    double indent() const { return hasSymbol ? SYMBOL_WIDTH : 0.0; }
+    QFont textFont(const QFont &font) const { return sized(font, TEXT_SIZE, kind == Header || isBold); }
+    double detailWidth(const QFont &font) const
+    {
+        return QFontMetricsF(sized(font, TEXT_SIZE)).horizontalAdvance(detail);
+    }
+    double textRoom(const QFont &font) const
+    {
+        return COLUMN_WIDTH - indent() - (detail.isEmpty() ? 0.0 : detailWidth(font) + 2 * TEXT_DISTANCE);
+    }
+    bool hasSymbol = kind == Line || kind == Swatch || kind == Hatch;
 };
 
 struct KTPreviewPainter::PlacedRow
@@ -147,6 +206,16 @@ struct KTPreviewPainter::PlacedRow
     int line;
 };
 
+/** A row of figures side by side on the sheet, their dimensions included. */
+struct KTPreviewPainter::FigureRow
+{
+    int first;
+    int end;
+    double width;
+    /** Of the drawings alone. */
+    double figureHeight;
+};
+
 KTPreviewPainter::KTPreviewPainter(const KTPreviewModel &model)
     : myModel(model)
     , myFont(QStringLiteral("DejaVu Sans"))
@@ -154,19 +223,47 @@ KTPreviewPainter::KTPreviewPainter(const KTPreviewModel &model)
 {
     // Without hinting, letters are as wide on the sheet as the metrics say, however it is scaled.
     myFont.setHintingPreference(QFont::PreferNoHinting);
-    double width = 0.0;
-    double height = 0.0;
-    for (const KTPreviewModel::Figure &figure : qAsConst(myModel.figures)) {
-        width += figure.total.width();
-        height = std::max(height, figure.total.height());
-    }
-    const double room = CONTENT_WIDTH - KTArithmetic::sizeOf(myModel.figures) * 2 * DIMENSION_STRIP
-        - (KTArithmetic::sizeOf(myModel.figures) - 1) * FIGURE_GAP;
-    const auto fits
-        = [=](double scale) { return width / scale <= room && height / scale <= MAX_FIGURE_HEIGHT; };
-    const auto *const scale = std::find_if(std::begin(SCALES), std::end(SCALES), fits);
+    myTitle = wrapped(myModel.title, sized(myFont, TITLE_SIZE, true), CONTENT_WIDTH, MAX_TITLE_LINES);
+    const auto *const scale = std::find_if(std::begin(SCALES), std::end(SCALES),
+                                           [this](double candidate) { return fits(candidate); });
     if (scale != std::end(SCALES))
         myScale = *scale;
+}
+
+bool KTPreviewPainter::fits(double scale) const
+{
+    double height = 0.0;
+    for (const FigureRow &row : figureRows(scale)) {
+        height += row.figureHeight;
+        if (row.width > CONTENT_WIDTH || row.figureHeight > MAX_FIGURE_HEIGHT)
+            return false;
+    }
+    return height <= MAX_FIGURES_HEIGHT;
+}
+
+/** The first figure, which is the cover, has a row for itself; the others share rows as far as they fit. */
+QVector<KTPreviewPainter::FigureRow> KTPreviewPainter::figureRows(double scale) const
+{
+    QVector<FigureRow> rows;
+    for (int i = 0; i < myModel.figures.size(); ++i) {
+        const KTPreviewModel::Figure &figure = myModel.figures.at(i);
+        const double width = figure.total.width() / scale + 2 * DIMENSION_STRIP;
+        const double height = figure.total.height() / scale;
+        if (i < 2 || rows.constLast().width + FIGURE_GAP + width > CONTENT_WIDTH) {
+            rows.append({i, i + 1, width, height});
+        } else {
+            FigureRow &row = rows.last();
+            row.end = i + 1;
+            row.width += FIGURE_GAP + width;
+            row.figureHeight = std::max(row.figureHeight, height);
+        }
+    }
+    return rows;
+}
+
+double KTPreviewPainter::titleHeight() const
+{
+    return TITLE_HEIGHT + (KTArithmetic::sizeOf(myTitle) - 1) * TITLE_LINE_HEIGHT;
 }
 
 QSize KTPreviewPainter::sheetSize() const
@@ -174,7 +271,7 @@ QSize KTPreviewPainter::sheetSize() const
     int rows = 0;
     placedLegend(&rows);
     return QSize(SHEET_WIDTH,
-                 2 * MARGIN + TITLE_HEIGHT + static_cast<int>(figuresHeight()) + rows * ROW_HEIGHT);
+                 static_cast<int>(2 * MARGIN + titleHeight() + figuresHeight() + rows * ROW_HEIGHT));
 }
 
 void KTPreviewPainter::paint(QPainter *painter) const
@@ -184,30 +281,31 @@ void KTPreviewPainter::paint(QPainter *painter) const
     painter->fillRect(QRect(QPoint(), sheetSize()), Qt::white);
     paintTitle(painter);
     paintScaleBar(painter);
-    double width = (KTArithmetic::sizeOf(myModel.figures) - 1) * FIGURE_GAP;
-    for (const KTPreviewModel::Figure &figure : myModel.figures)
-        width += figureWidth(figure);
-    QPointF corner((SHEET_WIDTH - width) * 0.5, MARGIN + TITLE_HEIGHT);
-    for (const KTPreviewModel::Figure &figure : myModel.figures) {
-        paintFigure(painter, figure, corner + QPointF(DIMENSION_STRIP, DIMENSION_STRIP));
-        corner.rx() += figureWidth(figure) + FIGURE_GAP;
+    double top = MARGIN + titleHeight();
+    for (const FigureRow &row : figureRows(myScale)) {
+        QPointF corner((SHEET_WIDTH - row.width) * 0.5, top);
+        for (int i = row.first; i < row.end; ++i) {
+            const KTPreviewModel::Figure &figure = myModel.figures.at(i);
+            paintFigure(painter, figure, corner + QPointF(DIMENSION_STRIP, DIMENSION_STRIP));
+            corner.rx() += figure.total.width() / myScale + 2 * DIMENSION_STRIP + FIGURE_GAP;
+        }
+        top += rowHeight(row);
     }
     paintLegend(painter);
 }
 
-/** On the sheet, dimensions included. */
-double KTPreviewPainter::figureWidth(const KTPreviewModel::Figure &figure) const
+/** On the sheet; one strip of dimensions above, two and some room below. */
+double KTPreviewPainter::rowHeight(const FigureRow &row)
 {
-    return figure.total.width() / myScale + 2 * DIMENSION_STRIP;
+    return row.figureHeight + 4 * DIMENSION_STRIP;
 }
 
-/** On the sheet; one strip of dimensions above, two and some room below. */
 double KTPreviewPainter::figuresHeight() const
 {
-    double height = LEAST_FIGURE_HEIGHT;
-    for (const KTPreviewModel::Figure &figure : myModel.figures)
-        height = std::max(height, figure.total.height() / myScale);
-    return height + 4 * DIMENSION_STRIP;
+    double height = 0.0;
+    for (const FigureRow &row : figureRows(myScale))
+        height += rowHeight(row);
+    return std::max(height, LEAST_FIGURE_HEIGHT + 4.0 * DIMENSION_STRIP);
 }
 
 QRectF KTPreviewPainter::scaled(const QRectF &rect, const QPointF &corner) const
@@ -217,15 +315,20 @@ QRectF KTPreviewPainter::scaled(const QRectF &rect, const QPointF &corner) const
 
 void KTPreviewPainter::paintTitle(QPainter *painter) const
 {
-    const auto line = [painter](const QFont &font, double y, double width, const QString &text) {
-        painter->setFont(font);
-        painter->drawText(QPointF(MARGIN, y), QFontMetricsF(font).elidedText(text, Qt::ElideRight, width));
-    };
     painter->setPen(QColor::fromRgba(INK));
-    line(sized(myFont, TITLE_SIZE, true), MARGIN + 45, CONTENT_WIDTH, myModel.title);
+    painter->setFont(sized(myFont, TITLE_SIZE, true));
+    double baseline = MARGIN + 45;
+    for (const QString &line : myTitle) {
+        painter->drawText(QPointF(MARGIN, baseline), line);
+        baseline += TITLE_LINE_HEIGHT;
+    }
+    const QFont font = sized(myFont, TEXT_SIZE + 4);
     painter->setPen(QColor::fromRgba(FAINT_INK));
-    line(sized(myFont, TEXT_SIZE + 4), MARGIN + 105, CONTENT_WIDTH * 0.7,
-         KTToolText::tr("%1.  Scale 1 : %2, all lengths in millimetres.").arg(myModel.subtitle).arg(myScale));
+    painter->setFont(font);
+    const QString text
+        = KTToolText::tr("%1.  Scale 1 : %2, all lengths in millimetres.").arg(myModel.subtitle).arg(myScale);
+    painter->drawText(QPointF(MARGIN, baseline - 4),
+                      QFontMetricsF(font).elidedText(text, Qt::ElideRight, CONTENT_WIDTH * 0.7));
 }
 
 /** The longest bar of a round length that is not in the way. */
@@ -236,7 +339,7 @@ void KTPreviewPainter::paintScaleBar(QPainter *painter) const
     const double times = LONGEST * myScale / decade;
     const double length = (times >= 5.0 ? 5.0 : times >= 2.0 ? 2.0 : 1.0) * decade;
     const double width = length / myScale;
-    const QRectF bar(SHEET_WIDTH - MARGIN - width, MARGIN + 80, width, 14.0);
+    const QRectF bar(SHEET_WIDTH - MARGIN - width, MARGIN + titleHeight() - 110, width, 14.0);
     painter->setPen(pen(INK, 2.0));
     painter->setBrush(Qt::white);
     painter->drawRect(bar);
@@ -274,11 +377,8 @@ void KTPreviewPainter::paintFigure(QPainter *painter, const KTPreviewModel::Figu
     painter->setBrush(Qt::NoBrush);
     for (const KTPreviewModel::Panel &panel : figure.panels) {
         const QRectF usable = scaled(panel.usable, corner);
-        painter->setFont(sized(myFont, LABEL_SIZE));
         painter->setPen(QColor::fromRgba(NAME_COLOR));
-        if (QFontMetricsF(painter->font()).horizontalAdvance(panel.name) < usable.width()
-            && usable.height() > LABEL_SIZE)
-            drawCentred(painter, usable.center(), panel.name);
+        paintName(painter, panel.name, usable);
         painter->setPen(slipcasePen());
         if (!panel.slipcase.isEmpty())
             painter->drawRect(scaled(panel.slipcase, corner));
@@ -286,6 +386,26 @@ void KTPreviewPainter::paintFigure(QPainter *painter, const KTPreviewModel::Figu
     for (const KTPreviewModel::Barcode &barcode : figure.barcodes)
         paintBarcode(painter, barcode, scaled(barcode.rect, corner), corner.y());
     paintDimensions(painter, figure, corner);
+}
+
+/** In the middle, in the larger of two sizes and in as many lines as it needs, where there is room for it. */
+void KTPreviewPainter::paintName(QPainter *painter, const QString &name, const QRectF &area) const
+{
+    for (const int size : {LABEL_SIZE, TEXT_SIZE}) {
+        const QFont font = sized(myFont, size);
+        const double lineHeight = size * 1.25;
+        const QStringList lines
+            = wrapped(name, font, area.width() - 2 * TEXT_DISTANCE, MAX_LEGEND_LINES, Breaks::AtWords);
+        if (lines.isEmpty() || KTArithmetic::sizeOf(lines) * lineHeight > area.height())
+            continue;
+        painter->setFont(font);
+        QPointF center = area.center() - QPointF(0.0, (KTArithmetic::sizeOf(lines) - 1) * lineHeight * 0.5);
+        for (const QString &line : lines) {
+            drawCentred(painter, center, line);
+            center.ry() += lineHeight;
+        }
+        return;
+    }
 }
 
 void KTPreviewPainter::paintBarcode(QPainter *painter, const KTPreviewModel::Barcode &barcode,
@@ -307,7 +427,9 @@ void KTPreviewPainter::paintBarcode(QPainter *painter, const KTPreviewModel::Bar
 
     // On a hatched box where it leaves enough of it to be seen, else beside it.
     painter->setFont(sized(myFont, TEXT_SIZE));
-    const QString text = QStringLiteral("p. %1").arg(barcode.pageNr);
+    const QString text
+        = QFontMetricsF(painter->font())
+              .elidedText(KTToolText::tr("p. %1").arg(barcode.pageText()), Qt::ElideRight, MAX_BARCODE_LABEL);
     QRectF label(0.0, 0.0, QFontMetricsF(painter->font()).horizontalAdvance(text) + 2 * TEXT_DISTANCE,
                  TEXT_SIZE + TEXT_DISTANCE);
     label.moveCenter(rect.center());
@@ -384,10 +506,10 @@ void KTPreviewPainter::paintDimension(QPainter *painter, const QPointF &from, do
     }
     const QFontMetricsF metrics(painter->font());
     const double width = metrics.horizontalAdvance(text);
-    const QPointF baseline((length - width) * 0.5, -TEXT_DISTANCE);
-    painter->fillRect(QRectF(baseline.x() - 3.0, baseline.y() - metrics.capHeight() - 3.0, width + 6.0,
-                             metrics.capHeight() + 5.0),
-                      Qt::white);
+    // Between the extension lines, or else behind the arrow.
+    const QPointF baseline = width + 2 * TEXT_DISTANCE < length
+        ? QPointF((length - width) * 0.5, -TEXT_DISTANCE)
+        : QPointF(length + outside + TEXT_DISTANCE, metrics.capHeight() * 0.5);
     painter->setPen(color);
     painter->drawText(baseline, text);
     painter->restore();
@@ -405,12 +527,12 @@ QVector<KTPreviewPainter::LegendRow> KTPreviewPainter::legend() const
         return std::any_of(myModel.figures.begin(), myModel.figures.end(), predicate);
     };
 
-    add(LegendRow::Header, QStringLiteral("Lines"));
+    add(LegendRow::Header, KTToolText::tr("Lines"));
     add(LegendRow::Line, KTToolText::tr("outer edge with bleed"), QString(), bleedPen(),
         QColor::fromRgba(BLEED_FILL));
     add(LegendRow::Line, KTToolText::tr("usable area"), QString(), usablePen(), Qt::white);
     if (!myModel.figures.constFirst().spine.isEmpty())
-        add(LegendRow::Line, QStringLiteral("spine"), QString(), usablePen(), QColor::fromRgba(SPINE_FILL));
+        add(LegendRow::Line, KTToolText::tr("spine"), QString(), usablePen(), QColor::fromRgba(SPINE_FILL));
     if (myModel.figures.constFirst().additionalSpineWidth > 0.0)
         add(LegendRow::Line, KTToolText::tr("additional width"), QString(), foldPen(),
             QColor::fromRgba(SPINE_FILL));
@@ -434,14 +556,32 @@ QVector<KTPreviewPainter::LegendRow> KTPreviewPainter::legend() const
         for (const KTPreviewModel::Option &option : group.options) {
             QStringList flags;
             if (option.isPreselected)
-                flags.append(QStringLiteral("preselected"));
+                flags.append(KTToolText::tr("preselected"));
             if (option.isNotCharged)
-                flags.append(QStringLiteral("free"));
+                flags.append(KTToolText::tr("free"));
             add(LegendRow::Swatch, option.name, flags.join(QStringLiteral(", ")), QPen(), option.color,
                 option.isPreselected);
         }
     }
-    return rows;
+    return linesOf(rows);
+}
+
+/** The same with a row for each line of the texts. */
+QVector<KTPreviewPainter::LegendRow> KTPreviewPainter::linesOf(const QVector<LegendRow> &rows) const
+{
+    QVector<LegendRow> lines;
+    for (const LegendRow &row : rows) {
+        LegendRow line = row;
+        for (const QString &text :
+             ::wrapped(row.text, row.textFont(myFont), row.textRoom(myFont), MAX_LEGEND_LINES)) {
+            line.text = text;
+            lines.append(line);
+            line.isBold = row.isBold || row.kind == LegendRow::Header;
+            line.kind = LegendRow::Continuation;
+            line.detail.clear();
+        }
+    }
+    return lines;
 }
 
 /** The rows in columns with so many lines; fewer rows where they do not suffice. */
@@ -507,13 +647,11 @@ void KTPreviewPainter::paintLegend(QPainter *painter) const
 
 void KTPreviewPainter::paintLegendRow(QPainter *painter, const LegendRow &row, const QPointF &corner) const
 {
-    const bool isHeader = row.kind == LegendRow::Header;
-    const bool hasSymbol = !isHeader && row.kind != LegendRow::Text;
     const QRectF symbol(corner + QPointF(0.0, (ROW_HEIGHT - SYMBOL_HEIGHT) * 0.5),
                         QSizeF(SYMBOL_WIDTH - 2 * TEXT_DISTANCE, SYMBOL_HEIGHT));
     if (row.kind == LegendRow::Hatch) {
         hatch(painter, symbol);
-    } else if (hasSymbol && row.color.alpha() > 0) {
+    } else if ((row.kind == LegendRow::Line || row.kind == LegendRow::Swatch) && row.color.alpha() > 0) {
         painter->setPen(row.kind == LegendRow::Line ? row.pen : pen(FAINT_INK, 2.0));
         painter->setBrush(row.color);
         painter->drawRect(symbol);
@@ -522,14 +660,9 @@ void KTPreviewPainter::paintLegendRow(QPainter *painter, const LegendRow &row, c
     const double baseline = corner.y() + ROW_HEIGHT * 0.5 + TEXT_SIZE * 0.36;
     painter->setFont(sized(myFont, TEXT_SIZE));
     painter->setPen(QColor::fromRgba(FAINT_INK));
-    const double detailWidth = QFontMetricsF(painter->font()).horizontalAdvance(row.detail);
-    painter->drawText(QPointF(corner.x() + COLUMN_WIDTH - detailWidth, baseline), row.detail);
+    painter->drawText(QPointF(corner.x() + COLUMN_WIDTH - row.detailWidth(myFont), baseline), row.detail);
 
-    painter->setFont(sized(myFont, TEXT_SIZE, isHeader || row.isBold));
+    painter->setFont(row.textFont(myFont));
     painter->setPen(QColor::fromRgba(INK));
-    const double indent = hasSymbol ? SYMBOL_WIDTH : 0.0;
-    const double room
-        = COLUMN_WIDTH - indent - (row.detail.isEmpty() ? 0.0 : detailWidth + 2 * TEXT_DISTANCE);
-    painter->drawText(QPointF(corner.x() + indent, baseline),
-                      QFontMetricsF(painter->font()).elidedText(row.text, Qt::ElideRight, room));
+    painter->drawText(QPointF(corner.x() + row.indent(), baseline), row.text);
 }

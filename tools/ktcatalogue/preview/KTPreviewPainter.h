@@ -24,18 +24,24 @@ public:
     void paint(QPainter *painter) const;
 
 private:
+    struct FigureRow;
     struct LegendRow;
     struct PlacedRow;
 
-    double figureWidth(const KTPreviewModel::Figure &figure) const;
+    bool fits(double scale) const;
+    QVector<FigureRow> figureRows(double scale) const;
+    static double rowHeight(const FigureRow &row);
     double figuresHeight() const;
+    double titleHeight() const;
     QVector<LegendRow> legend() const;
+    QVector<LegendRow> linesOf(const QVector<LegendRow> &rows) const;
     static QVector<PlacedRow> placedRows(const QVector<LegendRow> &rows, int rowsPerColumn, bool keepsGroups);
     QVector<PlacedRow> placedLegend(int *rowsPerColumn) const;
 
     void paintTitle(QPainter *painter) const;
     void paintScaleBar(QPainter *painter) const;
     void paintFigure(QPainter *painter, const KTPreviewModel::Figure &figure, const QPointF &corner) const;
+    void paintName(QPainter *painter, const QString &name, const QRectF &area) const;
     void paintBarcode(QPainter *painter, const KTPreviewModel::Barcode &barcode, const QRectF &rect,
                       double figureTop) const;
     void paintDimensions(QPainter *painter, const KTPreviewModel::Figure &figure,
@@ -48,6 +54,8 @@ private:
 
     KTPreviewModel myModel;
     QFont myFont;
+    /** Its lines. */
+    QStringList myTitle;
     /** So many layout units of the product are one of the sheet. */
     double myScale;
 };
