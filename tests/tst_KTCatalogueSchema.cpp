@@ -177,7 +177,7 @@ private Q_SLOTS:
         }
         const QTemporaryDir scratch;
         // One article is one line, so that findings can be told apart.
-        const auto catalogueOf = [&](const QStringList &values) {
+        const auto catalogueOf = [&place = place, &parent](const QStringList &values) {
             QString text = u"<catalogue>\n"_s;
             int id = 0;
             for (const QString &value : values) {
