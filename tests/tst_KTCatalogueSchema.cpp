@@ -165,7 +165,8 @@ private Q_SLOTS:
             const QChar character(unicode);
             // Blanks, digits and signs of all scripts, and letters that become others in lower case.
             const bool isOdd = unicode < 0x100 || character.isSpace() || character.isDigit()
-                || character.isSymbol() || character.category() == QChar::Punctuation_Dash
+                || character.category() == QChar::Symbol_Math
+                || character.category() == QChar::Punctuation_Dash
                 || (character.isLetter() && character.toLower().unicode() < 0x80);
             if (character.isSurrogate() || !isOdd
                 || (unicode < 0x20 && unicode != 10 && unicode != 13 && unicode != 9))
