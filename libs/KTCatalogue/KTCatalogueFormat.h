@@ -134,8 +134,8 @@ struct KTAttributeRow
     const char *since = "1.0";
 
     /**
-     * The default as it would be written, without its meaning; empty for the empty text, and null for keywords
-     * without a default and where it depends on other attributes.
+     * The default as it would be written, without its meaning; empty for the empty text, and null for
+     * keywords without a default and where it depends on other attributes.
      */
     KTCATALOGUE_EXPORT QString writtenDefault() const;
     /**
