@@ -54,6 +54,10 @@ endif()
 run(${configure} -S "${SOURCE_DIR}/../examples/configurator" -B "${SCRATCH_DIR}/configurator")
 run(${CMAKE_COMMAND} --build "${SCRATCH_DIR}/configurator")
 run("${moved}/bin/ktcatalogue" --version)
+foreach(schema IN ITEMS ktcatalogue.rng ktcatalogue.xsd)
+    run(${CMAKE_COMMAND} -E compare_files "${moved}/share/KTProductBase/schema/${schema}"
+        "${SOURCE_DIR}/../schema/${schema}")
+endforeach()
 # A drawing needs neither a display nor an environment.
 run(${CMAKE_COMMAND} -E env --unset=QT_QPA_PLATFORM "${moved}/bin/ktcatalogue" preview "${sample}"
     --article 7301 -o "${SCRATCH_DIR}/cover.svg")

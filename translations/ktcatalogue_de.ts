@@ -1619,6 +1619,402 @@
         <source>a section is not closed by &apos;]]&gt;&apos;</source>
         <translation>ein Abschnitt ist nicht mit &apos;]]&gt;&apos; geschlossen</translation>
     </message>
+    <message>
+        <source>The root. Its `article` children are the articles; other children are skipped.</source>
+        <translation>Die Wurzel. Ihre Kinder `article` sind die Artikel; andere Kinder werden übergangen.</translation>
+    </message>
+    <message>
+        <source>What customers can order, and all that the application knows of it.</source>
+        <translation>Was Kunden bestellen können, und alles, was die Anwendung davon weiß.</translation>
+    </message>
+    <message>
+        <source>The options on offer, one `form` each, in the order in which dialogs list them.</source>
+        <translation>Die angebotenen Optionen, je ein `form`, in der Reihenfolge, in der Dialoge sie aufführen.</translation>
+    </message>
+    <message>
+        <source>One option. Without `key` or `value` it is skipped.</source>
+        <translation>Eine Option. Ohne `key` oder `value` wird sie übergangen.</translation>
+    </message>
+    <message>
+        <source>How the article is bound.</source>
+        <translation>Wie der Artikel gebunden ist.</translation>
+    </message>
+    <message>
+        <source>How the spine grows with the page count.</source>
+        <translation>Wie der Rücken mit der Seitenzahl wächst.</translation>
+    </message>
+    <message>
+        <source>The size of one kind of page; an article has as many `page` children as it has kinds.</source>
+        <translation>Die Größe einer Art von Seite; ein Artikel hat so viele Kinder `page` wie Arten von Seiten.</translation>
+    </message>
+    <message>
+        <source>Where production barcodes stand.</source>
+        <translation>Wo Barcodes der Produktion stehen.</translation>
+    </message>
+    <message>
+        <source>A production barcode. Without an image name, or smaller than one layout unit, it is skipped.</source>
+        <translation>Ein Barcode der Produktion. Ohne Namen eines Bildes, oder kleiner als eine Layouteinheit, wird er übergangen.</translation>
+    </message>
+    <message>
+        <source>`id` counts</source>
+        <translation>es gilt `id`</translation>
+    </message>
+    <message>
+        <source>The article&apos;s number, a positive integer of 32 bits.</source>
+        <translation>Die Nummer des Artikels, eine positive ganze Zahl mit 32 Bit.</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>keine Nummer</translation>
+    </message>
+    <message>
+        <source>The number where `art_id` is missing or not positive.</source>
+        <translation>Die Nummer, wo `art_id` fehlt oder nicht positiv ist.</translation>
+    </message>
+    <message>
+        <source>The name that `ktcatalogue` shows.</source>
+        <translation>Der Name, den `ktcatalogue` zeigt.</translation>
+    </message>
+    <message>
+        <source>What kind of article it is.</source>
+        <translation>Welche Art von Artikel es ist.</translation>
+    </message>
+    <message>
+        <source>The family it is arranged as.</source>
+        <translation>Die Produktfamilie, nach der er angeordnet wird.</translation>
+    </message>
+    <message>
+        <source>The size class of its page.</source>
+        <translation>Die Größenklasse seiner Seite.</translation>
+    </message>
+    <message>
+        <source>The format of its page.</source>
+        <translation>Das Format seiner Seite.</translation>
+    </message>
+    <message>
+        <source>How it is bound, or what object it is.</source>
+        <translation>Wie er eingebunden ist, oder was für ein Gegenstand er ist.</translation>
+    </message>
+    <message>
+        <source>How its pages are bound.</source>
+        <translation>Wie seine Seiten gebunden sind.</translation>
+    </message>
+    <message>
+        <source>The paper of a print product.</source>
+        <translation>Das Papier eines Druckprodukts.</translation>
+    </message>
+    <message>
+        <source>The surface of a photo print.</source>
+        <translation>Die Oberfläche eines Fotoabzugs.</translation>
+    </message>
+    <message>
+        <source>The material class of a gift.</source>
+        <translation>Die Materialklasse eines Geschenks.</translation>
+    </message>
+    <message>
+        <source>The kind of downloadable content.</source>
+        <translation>Die Art der Inhalte zum Herunterladen.</translation>
+    </message>
+    <message>
+        <source>The finishings that are possible.</source>
+        <translation>Die möglichen Veredelungen.</translation>
+    </message>
+    <message>
+        <source>The code of the product type; an album code is shortened to its family.</source>
+        <translation>Der Code des Produkttyps; der eines Albums wird auf seine Familie gekürzt.</translation>
+    </message>
+    <message>
+        <source>The code under which the price list bills it; an empty one is free.</source>
+        <translation>Der Code, unter dem die Preisliste ihn berechnet; ein leerer ist kostenlos.</translation>
+    </message>
+    <message>
+        <source>no shipping group</source>
+        <translation>keine Versandgruppe</translation>
+    </message>
+    <message>
+        <source>The number of the shipping group; 0 ships together with other groups.</source>
+        <translation>Die Nummer der Versandgruppe; 0 wird mit anderen Gruppen zusammen versandt.</translation>
+    </message>
+    <message>
+        <source>The least page count.</source>
+        <translation>Die kleinste Seitenzahl.</translation>
+    </message>
+    <message>
+        <source>that of `pages`; 29 more for a picture box</source>
+        <translation>die von `pages`; bei einer Bilderbox 29 mehr</translation>
+    </message>
+    <message>
+        <source>The highest page count.</source>
+        <translation>Die größte Seitenzahl.</translation>
+    </message>
+    <message>
+        <source>0; 1 for a picture box</source>
+        <translation>0; bei einer Bilderbox 1</translation>
+    </message>
+    <message>
+        <source>The pages of one package; 0 means that the count does not step.</source>
+        <translation>Die Seiten eines Pakets; 0 heißt, dass es keine Schritte gibt.</translation>
+    </message>
+    <message>
+        <source>Multiplies `pages` and `max_pages`, but not `page_step`; a picture box has no pieces.</source>
+        <translation>Vervielfacht `pages` und `max_pages`, aber nicht `page_step`; eine Bilderbox hat keine Stücke.</translation>
+    </message>
+    <message>
+        <source>The key used in orders, such as `alcolor`.</source>
+        <translation>Der Schlüssel in Bestellungen, etwa `alcolor`.</translation>
+    </message>
+    <message>
+        <source>The value used in orders, such as `black`.</source>
+        <translation>Der Wert in Bestellungen, etwa `black`.</translation>
+    </message>
+    <message>
+        <source>The display name of the key.</source>
+        <translation>Der Anzeigename des Schlüssels.</translation>
+    </message>
+    <message>
+        <source>The display name of the value.</source>
+        <translation>Der Anzeigename des Werts.</translation>
+    </message>
+    <message>
+        <source>The name of the editor that offers the option.</source>
+        <translation>Der Name des Editors, der die Option anbietet.</translation>
+    </message>
+    <message>
+        <source>A further name; kept, but not used.</source>
+        <translation>Ein weiterer Name; behalten, aber nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>A reference to a preview image.</source>
+        <translation>Ein Verweis auf ein Vorschaubild.</translation>
+    </message>
+    <message>
+        <source>no colour: the option has no swatch</source>
+        <translation>keine Farbe: Die Option hat kein Farbfeld</translation>
+    </message>
+    <message>
+        <source>The colour of the swatch: `#RGB`, `#RRGGBB`, `#AARRGGBB` or an SVG colour name.</source>
+        <translation>Die Farbe des Farbfelds: `#RGB`, `#RRGGBB`, `#AARRGGBB` oder der Name einer SVG-Farbe.</translation>
+    </message>
+    <message>
+        <source>Whether the option is the default choice. Of several for one key, the last wins.</source>
+        <translation>Ob die Option vorausgewählt ist. Von mehreren für einen Schlüssel gilt die letzte.</translation>
+    </message>
+    <message>
+        <source>the option is charged</source>
+        <translation>die Option wird berechnet</translation>
+    </message>
+    <message>
+        <source>Whether the option is free of charge.</source>
+        <translation>Ob die Option kostenlos ist.</translation>
+    </message>
+    <message>
+        <source>The unit of the spine&apos;s lengths: `mm`, `cm`, `inch`, `pt` or `layoutunit` (0.1 mm). An empty text counts as a missing one.</source>
+        <translation>Die Einheit der Längen des Rückens: `mm`, `cm`, `inch`, `pt` oder `layoutunit` (0,1 mm). Ein leerer Text gilt als fehlend.</translation>
+    </message>
+    <message>
+        <source>the spine never grows</source>
+        <translation>der Rücken wächst nie</translation>
+    </message>
+    <message>
+        <source>How many packages of pages make one block.</source>
+        <translation>Wie viele Seitenpakete einen Block ergeben.</translation>
+    </message>
+    <message>
+        <source>The width at the least page count.</source>
+        <translation>Die Breite bei der kleinsten Seitenzahl.</translation>
+    </message>
+    <message>
+        <source>What each complete block adds.</source>
+        <translation>Was jeder vollständige Block hinzufügt.</translation>
+    </message>
+    <message>
+        <source>Added twice, once per side.</source>
+        <translation>Kommt zweimal hinzu, einmal je Seite.</translation>
+    </message>
+    <message>
+        <source>The kind of page.</source>
+        <translation>Die Art der Seite.</translation>
+    </message>
+    <message>
+        <source>Where it lies.</source>
+        <translation>Wo sie liegt.</translation>
+    </message>
+    <message>
+        <source>The unit of all its lengths.</source>
+        <translation>Die Einheit aller ihrer Längen.</translation>
+    </message>
+    <message>
+        <source>The usable width, without bleed.</source>
+        <translation>Die nutzbare Breite, ohne Beschnitt.</translation>
+    </message>
+    <message>
+        <source>The usable height, without bleed.</source>
+        <translation>Die nutzbare Höhe, ohne Beschnitt.</translation>
+    </message>
+    <message>
+        <source>The bleed above.</source>
+        <translation>Der Beschnitt oben.</translation>
+    </message>
+    <message>
+        <source>The bleed below.</source>
+        <translation>Der Beschnitt unten.</translation>
+    </message>
+    <message>
+        <source>The bleed on the left side.</source>
+        <translation>Der Beschnitt auf der linken Seite.</translation>
+    </message>
+    <message>
+        <source>The bleed on the right side.</source>
+        <translation>Der Beschnitt auf der rechten Seite.</translation>
+    </message>
+    <message>
+        <source>The usable width of the slipcase cover. Without this attribute there is no slipcase.</source>
+        <translation>Die nutzbare Breite des Schuberbezugs. Ohne dieses Attribut gibt es keinen Schuber.</translation>
+    </message>
+    <message>
+        <source>The usable height of the slipcase cover.</source>
+        <translation>Die nutzbare Höhe des Schuberbezugs.</translation>
+    </message>
+    <message>
+        <source>The unit of the positions and sizes.</source>
+        <translation>Die Einheit der Orte und Größen.</translation>
+    </message>
+    <message>
+        <source>The page on which it stands.</source>
+        <translation>Die Seite, auf der er steht.</translation>
+    </message>
+    <message>
+        <source>Its left edge.</source>
+        <translation>Seine linke Kante.</translation>
+    </message>
+    <message>
+        <source>Its lower edge.</source>
+        <translation>Seine untere Kante.</translation>
+    </message>
+    <message>
+        <source>Its width.</source>
+        <translation>Seine Breite.</translation>
+    </message>
+    <message>
+        <source>Its height.</source>
+        <translation>Seine Höhe.</translation>
+    </message>
+    <message>
+        <source>The placeholder image, a file below `icons/picshelf` of the resources.</source>
+        <translation>Das Platzhalterbild, eine Datei unter `icons/picshelf` der Ressourcen.</translation>
+    </message>
+    <message>
+        <source>A whole number of 32 bits. Blanks around it do not matter.</source>
+        <translation>Eine ganze Zahl mit 32 Bit. Leerzeichen um sie herum zählen nicht.</translation>
+    </message>
+    <message>
+        <source>A length, a number with a decimal point, not a comma. Blanks around it do not matter.</source>
+        <translation>Eine Länge, eine Zahl mit Dezimalpunkt, nicht Komma. Leerzeichen um sie herum zählen nicht.</translation>
+    </message>
+    <message>
+        <source>`true`, `false`, `1` or `0` in any letter case. Blanks around it do not matter.</source>
+        <translation>`true`, `false`, `1` oder `0`, groß oder klein geschrieben. Leerzeichen darum herum zählen nicht.</translation>
+    </message>
+    <message>
+        <source>Yes.</source>
+        <translation>Ja.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nein.</translation>
+    </message>
+    <message>
+        <source>The same as `true`.</source>
+        <translation>Dasselbe wie `true`.</translation>
+    </message>
+    <message>
+        <source>The same as `false`.</source>
+        <translation>Dasselbe wie `false`.</translation>
+    </message>
+    <message>
+        <source>`#RGB`, `#RRGGBB`, `#AARRGGBB` or an SVG colour name in any letter case; an empty text is no colour. Whether a name is one, `ktcatalogue check` tells.</source>
+        <translation>`#RGB`, `#RRGGBB`, `#AARRGGBB` oder der Name einer SVG-Farbe, groß oder klein geschrieben; ein leerer Text ist keine Farbe. Ob ein Name einer ist, sagt `ktcatalogue check`.</translation>
+    </message>
+    <message>
+        <source>A keyword of %1.</source>
+        <translation>Ein Schlüsselwort von %1.</translation>
+    </message>
+    <message>
+        <source>Deprecated: write %1, which it is read as.</source>
+        <translation>Veraltet: Als %1 gelesen und besser so geschrieben.</translation>
+    </message>
+    <message>
+        <source>One keyword or several, separated by `,`, in any letter case. Blanks around them do not matter. Whether a word is a keyword, `ktcatalogue check` tells.</source>
+        <translation>Ein Schlüsselwort oder mehrere, getrennt durch `,`, groß oder klein geschrieben. Leerzeichen um sie herum zählen nicht. Ob ein Wort ein Schlüsselwort ist, sagt `ktcatalogue check`.</translation>
+    </message>
+    <message>
+        <source>The unit of lengths, in any letter case. Blanks around it do not matter; an empty text counts as a missing one.</source>
+        <translation>Die Einheit von Längen, groß oder klein geschrieben. Leerzeichen um sie herum zählen nicht; ein leerer Text gilt als fehlend.</translation>
+    </message>
+    <message>
+        <source>A text.</source>
+        <translation>Ein Text.</translation>
+    </message>
+    <message>
+        <source>Keywords of %1, several separated by `,`.</source>
+        <translation>Schlüsselwörter von %1, mehrere getrennt durch `,`.</translation>
+    </message>
+    <message>
+        <source>A whole number.</source>
+        <translation>Eine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>A length in the %1 of %2.</source>
+        <translation>Eine Länge in den %1 von %2.</translation>
+    </message>
+    <message>
+        <source>True or false.</source>
+        <translation>Wahr oder falsch.</translation>
+    </message>
+    <message>
+        <source>A unit of length.</source>
+        <translation>Eine Längeneinheit.</translation>
+    </message>
+    <message>
+        <source>A colour.</source>
+        <translation>Eine Farbe.</translation>
+    </message>
+    <message>
+        <source>Needed.</source>
+        <translation>Notwendig.</translation>
+    </message>
+    <message>
+        <source>Default: %1.</source>
+        <translation>Vorgabe: %1.</translation>
+    </message>
+    <message>
+        <source>none of them</source>
+        <translation>keines davon</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>ein leerer Text</translation>
+    </message>
+    <message>
+        <source>The catalogue format of KTProductBase, made by `ktcatalogue schema` from the library&apos;s own tables. What it cannot say, `ktcatalogue check` does.</source>
+        <translation>Das Katalogformat von KTProductBase, von `ktcatalogue schema` aus den Tabellen der Bibliothek gemacht. Was es nicht sagen kann, sagt `ktcatalogue check`.</translation>
+    </message>
+    <message>
+        <source>Belongs into %1.</source>
+        <translation>Gehört in %1.</translation>
+    </message>
+    <message>
+        <source>Only the first one there is read.</source>
+        <translation>Nur das erste dort wird gelesen.</translation>
+    </message>
+    <message>
+        <source>Since %1.</source>
+        <translation>Seit %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
+    </message>
 </context>
 <context>
     <name>KTToolText</name>
@@ -2481,6 +2877,26 @@ Argumente:
     <message>
         <source>free</source>
         <translation>kostenlos</translation>
+    </message>
+    <message>
+        <source>Writes a schema of the catalogue format, with which editors complete and explain elements, attributes and keywords: W3C XML Schema 1.0 (xsd) or RELAX NG (rng).</source>
+        <translation>Schreibt ein Schema des Katalogformats, mit dem Editoren Elemente, Attribute und Schlüsselwörter ergänzen und erklären: W3C XML Schema 1.0 (xsd) oder RELAX NG (rng).</translation>
+    </message>
+    <message>
+        <source>Writes to OUT instead of standard output. A file that is there is replaced.</source>
+        <translation>Schreibt nach OUT statt auf die Standardausgabe. Eine vorhandene Datei wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>&apos;schema&apos; takes no file</source>
+        <translation>&apos;schema&apos; nimmt keine Datei</translation>
+    </message>
+    <message>
+        <source>&apos;schema&apos; needs a name behind -o</source>
+        <translation>&apos;schema&apos; braucht einen Namen hinter -o</translation>
+    </message>
+    <message>
+        <source>Writes a schema of the format, for editors.</source>
+        <translation>Schreibt ein Schema des Formats, für Editoren.</translation>
     </message>
 </context>
 </TS>

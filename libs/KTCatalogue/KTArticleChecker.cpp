@@ -147,7 +147,7 @@ void KTArticleChecker::reportUnread(KTElementKind parent)
 {
     const QString name = myCursor.name().toString();
     const KTElementRow *const elsewhere = KTCatalogueFormat::element(name);
-    const QString place = elsewhere
+    const QString place = elsewhere && elsewhere->parent != KTElementKind::Unread
         ? KTCatalogueText::tr("; it belongs into '%1'").arg(KTCatalogueFormat::elementName(elsewhere->parent))
         : suggestion(name, KTCatalogueFormat::elementNames(parent));
     myCursor.report(

@@ -21,6 +21,9 @@ using KTCheckText::suggestion;
 namespace {
 
 const QLatin1String XML_PREFIXES[] = {QLatin1String("xml:"), QLatin1String("xmlns")};
+const QLatin1String SCHEMA_INSTANCE("http://www.w3.org/2001/XMLSchema-instance");
+const QLatin1String SCHEMA_LOCATIONS[]
+    = {QLatin1String(":noNamespaceSchemaLocation"), QLatin1String(":schemaLocation")};
 // Nine digits always fit into an int.
 constexpr int SAFE_DIGITS = 9;
 
@@ -76,12 +79,28 @@ void reportNumber(KTElementCursor *cursor, int attribute, const KTAttributeRow &
                    message, attribute);
 }
 
+/** Whether the attribute tells an editor where the schema is. Its prefix is declared in the same element. */
+bool isSchemaLocation(const KTElementCursor &cursor, const QString &name)
+{
+    const QString prefix = name.section(QLatin1Char(':'), 0, 0);
+    if (std::none_of(std::begin(SCHEMA_LOCATIONS), std::end(SCHEMA_LOCATIONS),
+                     [&](QLatin1String location) { return name == prefix + location; }))
+        return false;
+    const QString declaration = QStringLiteral("xmlns:") + prefix;
+    for (int i = cursor.firstAttribute(); i < cursor.endOfAttributes(); ++i) {
+        if (cursor.nameOf(i) == declaration)
+            return cursor.valueOf(i) == SCHEMA_INSTANCE;
+    }
+    return false;
+}
+
 void reportUnknown(KTElementCursor *cursor, int attribute)
 {
     const QString name = cursor->nameOf(attribute).toString();
     // Declarations and attributes of XML itself are for everyone.
     if (std::any_of(std::begin(XML_PREFIXES), std::end(XML_PREFIXES),
-                    [&name](QLatin1String prefix) { return name.startsWith(prefix); }))
+                    [&name](QLatin1String prefix) { return name.startsWith(prefix); })
+        || isSchemaLocation(*cursor, name))
         return;
     cursor->report(
         KTRule::UnknownAttribute,

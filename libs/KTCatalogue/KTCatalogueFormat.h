@@ -106,6 +106,8 @@ struct KTElementRow
     KTElementKind parent;
     /** Whether the library reads only the first one in its parent. */
     bool isSingle;
+    /** What the element holds, in sentences of Markdown. */
+    const char *meaning;
 };
 
 /** An attribute that the library reads. */
@@ -126,7 +128,16 @@ struct KTAttributeRow
     const char *defaultMeaning;
     /** What the attribute says, in a sentence of Markdown. */
     const char *meaning;
+    /** Whether the library skips an element without it. */
+    bool isNeeded = false;
+    /** The first version of the library that reads it. */
+    const char *since = "1.0";
 
+    /**
+     * The default as it would be written, without its meaning; empty for the empty text, and null for
+     * keywords without a default and where it depends on other attributes.
+     */
+    KTCATALOGUE_EXPORT QString writtenDefault() const;
     /**
      * The default as it would be written, with its meaning: "0: the spine never grows". Keywords without a
      * default give "nothing".

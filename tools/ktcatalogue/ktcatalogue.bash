@@ -11,7 +11,7 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show check diff order orders preview keywords --help --language --version -h -v"
+        words="show check diff order orders preview keywords schema --help --language --version -h -v"
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
@@ -27,6 +27,7 @@ _ktcatalogue() {
         check:--files-from | check:--max-findings | check:-j) return ;;
         diff:--orders | diff:--list-orders) return ;;
         keywords:--format) words="text json markdown" ;;
+        schema:--format) words="xsd rng" ;;
         *:--language) words="de en" ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
@@ -45,6 +46,7 @@ _ktcatalogue() {
             order:-*) words="--article --pages --choose --format --json" ;;
             preview:-*) words="--all --article --format --output --page --pages --width -o" ;;
             keywords:-*) words="--format --json" ;;
+            schema:-*) words="--format --output -o" ;;
             keywords:*) words=$("$program" keywords 2>/dev/null | sed -n 's/^\(KT[A-Za-z]*\).*/\1/p') ;;
             esac
             case $current in

@@ -7,6 +7,7 @@
 #include "KTOrderCommand.h"
 #include "KTOrdersCommand.h"
 #include "KTPreviewCommand.h"
+#include "KTSchemaCommand.h"
 #include "KTShowCommand.h"
 #include "KTToolText.h"
 
@@ -47,6 +48,8 @@ constexpr CommandRow COMMANDS[] = {
      &KTPreviewCommand::run },
     {"keywords",      QT_TRANSLATE_NOOP("KTToolText", "Shows the keyword tables of the classifications."),
      &KTKeywordsCommand::run},
+    {"schema",        QT_TRANSLATE_NOOP("KTToolText", "Writes a schema of the format, for editors."),
+     &KTSchemaCommand::run  },
 };
 
 QString help()
