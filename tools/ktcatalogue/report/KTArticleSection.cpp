@@ -12,6 +12,7 @@
 #include <KTVariantsText.h>
 
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -21,6 +22,8 @@ namespace {
 constexpr int OPAQUE_ALPHA = 255;
 constexpr int MAX_BOX_STYLES = 40;
 constexpr int LONGEST_CODE = 4000;
+/** Behind the separators of order texts. */
+const QRegularExpression BREAK(QStringLiteral("(?<=[;,])"));
 
 /** What a keyword of the article is about, for somebody who does not know the names of attributes. */
 QString labelOf(KTAttributeId attribute)
@@ -96,8 +99,8 @@ void KTArticleSection::write(const QString &olderName)
     writeHead();
     KTReportText::writeFindings(myHtml, myFindings.takeRest(Topic::Article));
     writeDifferences(olderName);
-    writeDrawings();
     myHtml->start("div", "parts");
+    writeDrawings();
     writeFacts();
     writeOptions();
     writePageCounts();
@@ -156,7 +159,13 @@ void KTArticleSection::writeCode(const QString &label, const QString &text)
     myHtml->start("dd");
     myHtml->start("code");
     myHtml->attribute("dir", QStringLiteral("auto"));
-    myHtml->text(KTHtmlWriter::shortened(text, LONGEST_CODE));
+    // Where it may go on in the next line.
+    for (const QString &pair : KTHtmlWriter::shortened(text, LONGEST_CODE).split(BREAK)) {
+        if (!pair.isEmpty()) {
+            myHtml->text(pair);
+            myHtml->empty("wbr");
+        }
+    }
     myHtml->end();
     myHtml->end();
     myHtml->end();
@@ -362,6 +371,7 @@ void KTArticleSection::writeOptions()
     for (const QString &key : qAsConst(keys)) {
         const QVector<int> indexes = groups.value(key);
         const KTConfiguredArticleVariant &first = options.at(indexes.constFirst());
+        myHtml->start("div", "group");
         myHtml->start("h4");
         if (!first.keyName().isEmpty()) {
             myHtml->foreign("span", first.keyName());
@@ -372,6 +382,7 @@ void KTArticleSection::writeOptions()
         myHtml->start("ul", "options");
         for (const int index : indexes)
             writeOption(options.at(index), findings.at(index));
+        myHtml->end();
         myHtml->end();
         myHtml->line();
     }
@@ -417,7 +428,7 @@ void KTArticleSection::writeOption(const KTConfiguredArticleVariant &option,
     }
     if (!option.preview().isEmpty()) {
         myHtml->text(QStringLiteral(" "));
-        myHtml->foreign("span", option.preview(), "place");
+        myHtml->foreign("span", KTToolText::tr("preview %1").arg(option.preview()), "place");
     }
     KTReportText::writeFindings(myHtml, findings);
     myHtml->end();
@@ -428,7 +439,12 @@ void KTArticleSection::writePageCounts()
     begin(myArticle.article.hasSpine() ? KTToolText::tr("Page counts and spine")
                                        : KTToolText::tr("Page counts"));
     KTReportText::writeFindings(myHtml, myFindings.takeRest(Topic::PageCounts));
-    myHtml->element("p", rows("pageCounts").constFirst().value);
+    const KTPageCountOrganization &counts = myArticle.article.pageCounts();
+    const bool isFixed = counts.isValid() && counts.minPages() == counts.maxPages();
+    myHtml->element("p",
+                    isFixed ? counts.minPages() == 1 ? KTToolText::tr("1 page")
+                                                     : KTToolText::tr("%1 pages").arg(counts.minPages())
+                            : rows("pageCounts").constFirst().value);
     if (myArticle.article.hasSpine())
         KTSpineChart::write(myHtml, myArticle.article);
     end();

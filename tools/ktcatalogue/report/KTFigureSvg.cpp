@@ -14,9 +14,9 @@ using Panel = KTPreviewModel::Panel;
 constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 constexpr int SCALES[] = {1, 2, 3, 4, 5, 6, 8, 10, 15, 20, 30, 40, 50, 75};
 
-// All of these in millimetres of the page.
-constexpr double MAX_WIDTH = 112.0;
-constexpr double MAX_HEIGHT = 74.0;
+// All of these in millimetres of the page, of which two drawings fit side by side on a printed one.
+constexpr double MAX_WIDTH = 90.0;
+constexpr double MAX_HEIGHT = 62.0;
 constexpr double FONT_SIZE = 2.8;
 /** Of letters and digits on average. */
 constexpr double LETTER_WIDTH = 0.56 * FONT_SIZE;

@@ -5,6 +5,7 @@
 
 #include <KTArithmetic.h>
 #include <KTClassification.h>
+#include <KTMillimeterText.h>
 
 #include <algorithm>
 
@@ -12,20 +13,31 @@ namespace {
 
 const QString NOTHING = QStringLiteral("–");
 
-/** How people name the format: "A4, Hochformat". */
+/** How people name the format, with the size of a page: "A4, 210 × 280 mm". */
 QString formatOf(const KTArticle &article)
 {
-    QStringList words;
+    QString size;
+    QString orientation;
     for (const KTArticle::Classified &entry : article.classifications()) {
-        if (entry.attribute != KTAttributeId::ArticleSpaceMagnitude
-            && entry.attribute != KTAttributeId::ArticleOrientation)
-            continue;
         const QString name
             = KTClassification::of(KTCatalogueFormat::attribute(entry.attribute).classification)
                   .displayName(entry.value);
-        if (!name.isEmpty())
-            words.append(name);
+        if (entry.attribute == KTAttributeId::ArticleSpaceMagnitude)
+            size = name;
+        else if (entry.attribute == KTAttributeId::ArticleOrientation)
+            orientation = name;
     }
+    QStringList words {size};
+    if (article.pages().isEmpty()) {
+        // Names of orientations stand before a noun, some with a hyphen.
+        words.append(orientation.endsWith(QLatin1Char('-')) ? orientation.chopped(1) : orientation);
+    } else {
+        const QSize usable = article.pages().constFirst().size.usableSize();
+        words.append(QStringLiteral("%1\u00a0×\u00a0%2\u00a0mm")
+                         .arg(KTHtmlWriter::number(KTMillimeterText::millimeters(usable.width())),
+                              KTHtmlWriter::number(KTMillimeterText::millimeters(usable.height()))));
+    }
+    words.removeAll(QString());
     return words.isEmpty() ? NOTHING : words.join(QStringLiteral(", "));
 }
 
@@ -127,7 +139,10 @@ void KTReportContents::writeRow(KTHtmlWriter *html, const KTReportArticle &artic
     beginCell(html, KTToolText::tr("Name"));
     html->foreign("span", content.name().isEmpty() ? NOTHING : content.name());
     html->end();
-    writeCell(html, KTToolText::tr("Class"), KTReportText::className(content));
+    beginCell(html, KTToolText::tr("Class"));
+    html->text(KTReportText::className(content) + QLatin1Char(' '));
+    html->element("code", KTReportText::classKeyword(content));
+    html->end();
     writeCell(html, KTToolText::tr("Format"), formatOf(content));
     writeCell(html, KTToolText::tr("Pages"), KTReportText::pageCounts(content),
               content.pageCounts().minPages());

@@ -60,8 +60,7 @@ KTReportWriter::KTReportWriter(QIODevice *device, const KTReportHead &head, KTRe
 
 QString KTReportWriter::title() const
 {
-    return KTToolText::tr("Catalogue %1")
-        .arg(KTHtmlWriter::shortened(QFileInfo(myHead.catalogueName).fileName()));
+    return KTHtmlWriter::shortened(QFileInfo(myHead.catalogueName).fileName());
 }
 
 QString KTReportWriter::footer() const
@@ -115,7 +114,7 @@ void KTReportWriter::writeDocumentHead()
                      QStringLiteral("%1 %2").arg(QCoreApplication::applicationName(),
                                                  QCoreApplication::applicationVersion()));
     myHtml.line();
-    myHtml.element("title", title());
+    myHtml.element("title", KTToolText::tr("%1: catalogue report").arg(title()));
     myHtml.line();
     myHtml.code("style", style);
     myHtml.line();
@@ -133,7 +132,7 @@ void KTReportWriter::writeTop()
     myHtml.start("header", "top");
     myHtml.foreign("h1", title());
     myHtml.start("p");
-    myHtml.text(KTToolText::tr("made on "));
+    myHtml.text(KTToolText::tr("Catalogue report, made on "));
     myHtml.start("time");
     myHtml.attribute("datetime", myHead.made.toString(Qt::ISODate));
     myHtml.text(myHead.made.toString(QStringLiteral("yyyy-MM-dd HH:mm 'UTC'")));
@@ -229,6 +228,8 @@ void KTReportWriter::writeClasses()
         myHtml.text(entry->name);
         myHtml.end();
         myHtml.text(QStringLiteral(" "));
+        myHtml.element("code", entry.key());
+        myHtml.text(QStringLiteral(" "));
         myHtml.element("b", QString::number(entry->articles));
         myHtml.end();
     }
@@ -311,7 +312,8 @@ void KTReportWriter::writeFilter()
     for (auto entry = myContents->classes().cbegin(); entry != myContents->classes().cend(); ++entry) {
         myHtml.start("option");
         myHtml.attribute("value", entry.key());
-        myHtml.text(QStringLiteral("%1 (%2)").arg(entry->name, QString::number(entry->articles)));
+        myHtml.text(
+            QStringLiteral("%1, %2 (%3)").arg(entry->name, entry.key(), QString::number(entry->articles)));
         myHtml.end();
     }
     myHtml.end();

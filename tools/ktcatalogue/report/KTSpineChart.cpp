@@ -14,14 +14,14 @@ namespace {
 
 // In dots of the drawing.
 constexpr double WIDTH = 320.0;
-constexpr double HEIGHT = 132.0;
+constexpr double HEIGHT = 140.0;
 constexpr double LEFT = 30.0;
 constexpr double RIGHT = 12.0;
 constexpr double TOP = 16.0;
-constexpr double BOTTOM = 26.0;
+constexpr double BOTTOM = 33.0;
 constexpr double TICK = 4.0;
 constexpr double LABEL_GAP = 13.0;
-constexpr int MAX_TICKS = 4;
+constexpr int MAX_TICKS = 5;
 
 using Step = KTSpineSteps::Step;
 
@@ -53,11 +53,13 @@ double roundStep(double length)
 class Chart
 {
 public:
-    Chart(KTHtmlWriter *html, const KTSpineSteps &spine)
+    /** The increment is that of the page counts; the last step is as wide as it says. */
+    Chart(KTHtmlWriter *html, const KTSpineSteps &spine, int increment)
         : myHtml(html)
         , mySteps(spine.steps)
         , myFirst(spine.steps.constFirst().first)
-        , myLast(std::max(myFirst + 1.0, double(spine.steps.constLast().last)))
+        , myLast(std::max(myFirst, double(spine.steps.constLast().last)))
+        , myEnd(myLast + std::max(1.0, double(increment)))
     {
         for (const Step &step : mySteps) {
             if (std::isfinite(step.millimeters))
@@ -90,7 +92,7 @@ public:
 private:
     double x(double pages) const
     {
-        return LEFT + (WIDTH - LEFT - RIGHT) * (pages - myFirst) / (myLast - myFirst);
+        return LEFT + (WIDTH - LEFT - RIGHT) * (pages - myFirst) / (myEnd - myFirst);
     }
     double y(double millimeters) const
     {
@@ -135,7 +137,7 @@ private:
         myHtml->empty("path", "axis");
         myHtml->attribute("d", ticks);
         writeLabel(2.0, LABEL_GAP - TICK, QStringLiteral("mm"), nullptr);
-        writeLabel(WIDTH - RIGHT, HEIGHT - 1.0, KTToolText::tr("pages"), "end unit");
+        writeLabel(WIDTH - RIGHT, HEIGHT - TICK, KTToolText::tr("pages"), "end");
     }
 
     /** The line, and above each step an invisible box that tells its values. */
@@ -149,7 +151,7 @@ private:
                            : QStringLiteral("H%1V%2").arg(KTHtmlWriter::number(x(step.first)),
                                                           KTHtmlWriter::number(y(step.millimeters)));
         }
-        line += QStringLiteral("H%1").arg(KTHtmlWriter::number(x(myLast)));
+        line += QStringLiteral("H%1").arg(KTHtmlWriter::number(x(myEnd)));
         myHtml->empty("path", "steps");
         myHtml->attribute("d", line);
         const int together
@@ -158,7 +160,7 @@ private:
             const Step &begin = mySteps.at(i);
             const Step &end = mySteps.at(std::min(i + together, KTArithmetic::sizeOf(mySteps)) - 1);
             const int next = i + together;
-            const double right = next < mySteps.size() ? x(mySteps.at(next).first) : x(myLast);
+            const double right = next < mySteps.size() ? x(mySteps.at(next).first) : x(myEnd);
             myHtml->start("rect", "over");
             myHtml->attribute("x", x(begin.first));
             myHtml->attribute("y", TOP);
@@ -178,6 +180,7 @@ private:
     const QVector<Step> &mySteps;
     double myFirst;
     double myLast;
+    double myEnd;
     double myStep = 1.0;
     double myHighest = 0.0;
 };
@@ -240,6 +243,6 @@ void writeTable(KTHtmlWriter *html, const KTSpineSteps &spine)
 void KTSpineChart::write(KTHtmlWriter *html, const KTArticle &article)
 {
     const KTSpineSteps spine(article);
-    Chart(html, spine).write();
+    Chart(html, spine, article.pageCounts().pageIncrement()).write();
     writeTable(html, spine);
 }
