@@ -192,7 +192,7 @@ private Q_SLOTS:
             u"1 Seiten, 1 of 1"_s, u"The catalogue gives no page sizes."_s);
         row("counted in photos", u"8840"_s, {u"8840  Erinnerungsbox mit 30 Fotos"_s, none, complete},
             u"[Holzbox] Leinenbox [Graviert] Gedruckt"_s, u"5 Fotos, 1 of 30"_s,
-            u"The catalogue gives no page sizes."_s);
+            u"Front 165.0 x 125.0 mm, With bleed 195.0 x 155.0 mm"_s);
     }
     void showsArticles()
     {

@@ -1955,16 +1955,8 @@ Beispiel:
         <translation>&apos;orders&apos; braucht zwei Dateien, CATALOGUE und ORDERS</translation>
     </message>
     <message>
-        <source>Draws the cover of an article to scale: usable area, bleed, spine, slipcase cover and barcodes, with dimensions in millimetres and the options on offer.</source>
-        <translation>Zeichnet den Einband eines Artikels im Maßstab: nutzbare Fläche, Beschnitt, Buchrücken, Schuberdecke und Barcodes, mit Maßen in Millimetern und den angebotenen Optionen.</translation>
-    </message>
-    <message>
         <source>The page count; the least one by default.</source>
         <translation>Die Seitenzahl; Vorgabe ist die kleinste.</translation>
-    </message>
-    <message>
-        <source>Writes to OUT, whose ending says the format: .svg, .png or .pdf. A file that is there is replaced once the drawing is complete.</source>
-        <translation>Schreibt in OUT, dessen Endung das Format nennt: .svg, .png oder .pdf. Eine vorhandene Datei wird ersetzt, sobald die Zeichnung vollständig ist.</translation>
     </message>
     <message>
         <source>&apos;preview&apos; needs -o OUT</source>
@@ -2287,16 +2279,8 @@ Beispiel:
         <translation>keine solche Seite</translation>
     </message>
     <message>
-        <source>not drawn</source>
-        <translation>nicht gezeichnet</translation>
-    </message>
-    <message>
         <source>its size is not known</source>
         <translation>seine Größe ist nicht bekannt</translation>
-    </message>
-    <message>
-        <source>Page %1</source>
-        <translation>Seite %1</translation>
     </message>
     <message>
         <source>outside, at %1, %2</source>
@@ -2389,6 +2373,114 @@ Arguments:
         <translation>
 Argumente:
 </translation>
+    </message>
+    <message>
+        <source>Draws every article that has sizes, each on a sheet of its own; needs PDF.</source>
+        <translation>Zeichnet jeden Artikel, der Maße hat, jeden auf ein eigenes Blatt; braucht PDF.</translation>
+    </message>
+    <message>
+        <source>Only pages of this type, such as normalpage, or of several, separated by commas. All by default, the cover first.</source>
+        <translation>Nur Seiten dieser Art, wie normalpage, oder mehrerer, durch Kommas getrennt. Vorgabe sind alle, der Umschlag zuerst.</translation>
+    </message>
+    <message>
+        <source>svg, png or pdf. By default the ending of OUT says it; for - it is svg, with --all pdf.</source>
+        <translation>svg, png oder pdf. Ohne Angabe sagt es die Endung von OUT; für - ist es svg, mit --all pdf.</translation>
+    </message>
+    <message>
+        <source>The width of a PNG, 100 to 8000; 1782 by default.</source>
+        <translation>Die Breite eines PNG, 100 bis 8000; Vorgabe ist 1782.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no type of page</source>
+        <translation>&apos;%1&apos; ist keine Seitenart</translation>
+    </message>
+    <message>
+        <source>&apos;preview&apos; needs --article or --all</source>
+        <translation>&apos;preview&apos; braucht --article oder --all</translation>
+    </message>
+    <message>
+        <source>--all goes with neither --article nor --pages</source>
+        <translation>--all geht weder mit --article noch mit --pages</translation>
+    </message>
+    <message>
+        <source>--all needs a PDF, which can have several sheets</source>
+        <translation>--all braucht ein PDF, das mehrere Blätter haben kann</translation>
+    </message>
+    <message>
+        <source>--width is for PNG</source>
+        <translation>--width ist für PNG</translation>
+    </message>
+    <message>
+        <source>%1: no article can be drawn</source>
+        <translation>%1: kein Artikel kann gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 articles drawn</source>
+        <translation>%1: %2 von %3 Artikeln gezeichnet</translation>
+    </message>
+    <message>
+        <source>Draws the cover of an article to scale, and its other kinds of pages below: usable area, bleed, spine, slipcase cover and barcodes, with dimensions in millimetres and the options on offer.</source>
+        <translation>Zeichnet den Umschlag eines Artikels maßstäblich und darunter seine anderen Seitenarten: nutzbare Fläche, Beschnitt, Buchrücken, Schuberdecke und Barcodes, mit Maßen in Millimetern und den angebotenen Optionen.</translation>
+    </message>
+    <message>
+        <source>Writes to OUT, whose ending says the format: .svg, .png or .pdf; - for standard output. A file that is there is replaced once the drawing is complete.</source>
+        <translation>Schreibt nach OUT, dessen Endung das Format sagt: .svg, .png oder .pdf; - für die Standardausgabe. Eine Datei, die da ist, wird ersetzt, sobald die Zeichnung vollständig ist.</translation>
+    </message>
+    <message>
+        <source>page without type</source>
+        <translation>Seite ohne Art</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Umschlag</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Rückseite</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <translation>Vorderseite</translation>
+    </message>
+    <message>
+        <source>with bleed</source>
+        <translation>mit Beschnitt</translation>
+    </message>
+    <message>
+        <source>%1: the article %2</source>
+        <translation>%1: der Artikel %2</translation>
+    </message>
+    <message>
+        <source>%1 more page sizes</source>
+        <translation>%1 weitere Seitenmaße</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 Seite</translation>
+    </message>
+    <message>
+        <source>has no page of type &apos;%1&apos;</source>
+        <translation>hat keine Seite der Art &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>p. %1</source>
+        <translation>S. %1</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>spine</source>
+        <translation>Buchrücken</translation>
+    </message>
+    <message>
+        <source>preselected</source>
+        <translation>vorausgewählt</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>kostenlos</translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,7 @@ _ktcatalogue() {
         case $command:$previous in
         check:--format) words="text json sarif" ;;
         diff:--format) words="text json markdown sarif" ;;
+        preview:--format) words="svg png pdf" ;;
         show:--format | order:--format | orders:--format) words="text json" ;;
         check:--fail-on) words="error warning hint never" ;;
         diff:--fail-on) words="breaking charge production offer text never" ;;
@@ -42,7 +43,7 @@ _ktcatalogue() {
                 ;;
             orders:-*) words="--format --json" ;;
             order:-*) words="--article --pages --choose --format --json" ;;
-            preview:-*) words="--article --pages --output -o" ;;
+            preview:-*) words="--all --article --format --output --page --pages --width -o" ;;
             keywords:-*) words="--format --json" ;;
             keywords:*) words=$("$program" keywords 2>/dev/null | sed -n 's/^\(KT[A-Za-z]*\).*/\1/p') ;;
             esac

@@ -39,9 +39,10 @@ const KTOptionRow OPTIONS[] = {
               QT_TRANSLATE_NOOP("KTToolText",
                                 "Only pages of this type, such as normalpage, or of several, separated by "
                                 "commas. All by default, the cover first.")),
-    optionRow(
-        FORMAT, "FORMAT", "",
-        QT_TRANSLATE_NOOP("KTToolText", "svg, png or pdf. By default the ending of OUT says it; svg for -.")),
+    optionRow(FORMAT, "FORMAT", "",
+              QT_TRANSLATE_NOOP(
+                  "KTToolText",
+                  "svg, png or pdf. By default the ending of OUT says it; for - it is svg, with --all pdf.")),
     optionRow(WIDTH, "PIXELS", "",
               QT_TRANSLATE_NOOP("KTToolText", "The width of a PNG, 100 to 8000; 1782 by default.")),
 };
@@ -84,7 +85,7 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
     const QStringList formats = KTPreviewWriter::formats();
     const bool isStandardOutput = options->output == STANDARD_OUTPUT;
     options->format = parser.isSet(FORMAT) ? parser.value(FORMAT)
-        : isStandardOutput                 ? formats.constFirst()
+        : isStandardOutput                 ? (options->isAll ? PDF : formats.constFirst())
                                            : QFileInfo(options->output).suffix().toLower();
     if (!formats.contains(options->format)) {
         return parser.isSet(FORMAT)

@@ -77,9 +77,13 @@ KTPreviewModel::Panel panelOf(const Page &page, const QString &name, const QPoin
     return panel;
 }
 
+/** The keyword of the type, or those of its parts. */
 QString typeName(const KTPageType &type)
 {
-    return type.value() == 0 ? KTToolText::tr("page without type") : type.encodeCSV();
+    if (type.value() == 0)
+        return KTToolText::tr("page without type");
+    const QString keyword = type.encode();
+    return keyword.isEmpty() ? type.encodeCSV() : keyword;
 }
 
 /** "normalpage (left)", or without what the catalogue does not say. */
@@ -276,7 +280,7 @@ void addOtherFigures(KTPreviewModel *model, const QVector<Page> &pages, const Co
             ++left;
     }
     if (left > 0)
-        model->notes.append(KTToolText::tr("%1 more page sizes", nullptr, left).arg(left));
+        model->notes.append(KTToolText::tr("%1 more page sizes").arg(left));
 }
 
 } // namespace
