@@ -5,6 +5,7 @@
 #include "KTToolText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -14,9 +15,14 @@ using Panel = KTPreviewModel::Panel;
 constexpr double LAYOUT_UNITS_PER_MILLIMETER = 10.0;
 constexpr int SCALES[] = {1, 2, 3, 4, 5, 6, 8, 10, 15, 20, 30, 40, 50, 75};
 
-// All of these in millimetres of the page, of which two drawings fit side by side on a printed one.
+// All of these in millimetres of the page.
 constexpr double MAX_WIDTH = 90.0;
 constexpr double MAX_HEIGHT = 62.0;
+/** Of all drawings of an article, on paper of the size A4. */
+constexpr double PAGE_WIDTH = 184.0;
+constexpr double MAX_ROWS_HEIGHT = 130.0;
+constexpr double FIGURE_GAP = 6.0;
+constexpr double CAPTION_HEIGHT = 11.0;
 constexpr double FONT_SIZE = 2.8;
 /** Of letters and digits on average. */
 constexpr double LETTER_WIDTH = 0.56 * FONT_SIZE;
@@ -26,6 +32,8 @@ constexpr double ROW = 5.6;
 constexpr double TEXT_GAP = 0.9;
 constexpr double TICK = 0.9;
 constexpr double MARGIN = 1.0;
+/** What dimensions take on the left and below. */
+constexpr double SIDE = MARGIN + LINE_GAP + 2.0 * ROW;
 
 QString millimeters(double layoutUnits)
 {
@@ -214,6 +222,33 @@ private:
     bool myHasBleed;
 };
 
+double millimetersOf(double layoutUnits)
+{
+    return layoutUnits / LAYOUT_UNITS_PER_MILLIMETER;
+}
+
+/** Whether the figures, in rows, leave room for the rest of the article on a printed page. */
+bool isOnPage(const QVector<Figure> &figures, int scale)
+{
+    double left = 0.0;
+    double rowHeight = 0.0;
+    double height = 0.0;
+    for (const Figure &figure : figures) {
+        const double width = millimetersOf(figure.total.width()) / scale;
+        const double figureHeight = millimetersOf(figure.total.height()) / scale;
+        if (width > MAX_WIDTH || figureHeight > MAX_HEIGHT)
+            return false;
+        if (left > 0.0 && left + FIGURE_GAP + width + SIDE > PAGE_WIDTH) {
+            height += rowHeight;
+            left = 0.0;
+            rowHeight = 0.0;
+        }
+        left += (left > 0.0 ? FIGURE_GAP : 0.0) + width + SIDE;
+        rowHeight = std::max(rowHeight, figureHeight + SIDE + CAPTION_HEIGHT);
+    }
+    return height + rowHeight <= MAX_ROWS_HEIGHT;
+}
+
 /** What the drawing shows, in words that stay readable where it is small. */
 QString captionOf(const Figure &figure)
 {
@@ -245,15 +280,16 @@ QString captionOf(const Figure &figure)
 
 int KTFigureSvg::scale(const QVector<Figure> &figures)
 {
+    const auto *const found = std::find_if(std::begin(SCALES), std::end(SCALES),
+                                           [&](int scale) { return isOnPage(figures, scale); });
+    if (found != std::end(SCALES))
+        return *found;
+    // Many figures take several pages, but each of them is on one.
     double needed = 0.0;
-    for (const Figure &figure : figures) {
-        needed = std::max({needed, figure.total.width() / LAYOUT_UNITS_PER_MILLIMETER / MAX_WIDTH,
-                           figure.total.height() / LAYOUT_UNITS_PER_MILLIMETER / MAX_HEIGHT});
-    }
-    const auto *const found
-        = std::find_if(std::begin(SCALES), std::end(SCALES), [needed](int scale) { return scale >= needed; });
-    // A cover of the longest sides, back and front with their bleed, is some 20 metres wide.
-    return found == std::end(SCALES) ? static_cast<int>(needed) + 1 : *found;
+    for (const Figure &figure : figures)
+        needed = std::max({needed, millimetersOf(figure.total.width()) / MAX_WIDTH,
+                           millimetersOf(figure.total.height()) / MAX_HEIGHT});
+    return static_cast<int>(std::ceil(needed));
 }
 
 void KTFigureSvg::writeDefinitions(KTHtmlWriter *html)

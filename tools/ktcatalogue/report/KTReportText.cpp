@@ -84,6 +84,9 @@ QString KTReportText::classKeyword(const KTArticle &article)
 
 QString KTReportText::className(const KTArticle &article)
 {
+    // The product model counts these among the gifts, which would hide that something is missing.
+    if (article.articleClass().value() == KTArticleClassNone)
+        return KTToolText::tr("no class");
     const QString name = KTClassification::of(KTClassificationId::ArticleClass)
                              .displayName(static_cast<qint64>(article.articleClass().value()));
     return name.isEmpty() ? classKeyword(article) : name;

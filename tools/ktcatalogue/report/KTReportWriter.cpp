@@ -63,6 +63,11 @@ QString KTReportWriter::title() const
     return KTHtmlWriter::shortened(QFileInfo(myHead.catalogueName).fileName());
 }
 
+QString KTReportWriter::olderTitle() const
+{
+    return KTHtmlWriter::shortened(QFileInfo(myHead.olderName).fileName());
+}
+
 QString KTReportWriter::footer() const
 {
     return KTToolText::tr("%1, made on %2").arg(title(), myHead.made.date().toString(Qt::ISODate));
@@ -138,7 +143,7 @@ void KTReportWriter::writeTop()
     myHtml.text(myHead.made.toString(QStringLiteral("yyyy-MM-dd HH:mm 'UTC'")));
     myHtml.end();
     if (isCompared())
-        myHtml.text(KTToolText::tr(", compared with %1").arg(KTHtmlWriter::shortened(myHead.olderName)));
+        myHtml.text(KTToolText::tr(", compared with %1").arg(olderTitle()));
     myHtml.end();
     if (!myHead.selection.isEmpty())
         myHtml.foreign("p",
@@ -240,7 +245,7 @@ void KTReportWriter::writeClasses()
 void KTReportWriter::writeDifferences()
 {
     const KTDifferenceCounts &counts = myContents->differences();
-    myHtml.element("h3", KTToolText::tr("Changes since %1").arg(KTHtmlWriter::shortened(myHead.olderName)));
+    myHtml.element("h3", KTToolText::tr("Changes since %1").arg(olderTitle()));
     if (counts.total() == 0)
         myHtml.element("p", KTToolText::tr("Nothing has changed."));
     myHtml.start("ul", "findings");
@@ -281,7 +286,7 @@ void KTReportWriter::writeOutside()
 void KTReportWriter::writeFilter()
 {
     const auto box = [this](const char *id, const QString &label) {
-        myHtml.start("label", "box");
+        myHtml.start("label");
         myHtml.empty("input");
         myHtml.attribute("type", QStringLiteral("checkbox"));
         myHtml.attribute("id", QString::fromLatin1(id));
@@ -293,16 +298,22 @@ void KTReportWriter::writeFilter()
     myHtml.attribute("id", QStringLiteral("filter"));
     myHtml.attribute("role", QStringLiteral("search"));
     myHtml.attribute("hidden", QStringLiteral("hidden"));
-    myHtml.start("label");
-    myHtml.text(KTToolText::tr("Search") + QLatin1Char(' '));
+    const auto label = [this](const char *id, const QString &text) {
+        myHtml.start("span", "field");
+        myHtml.start("label");
+        myHtml.attribute("for", QString::fromLatin1(id));
+        myHtml.text(text);
+        myHtml.end();
+        myHtml.text(QStringLiteral(" "));
+    };
+    label("query", KTToolText::tr("Search"));
     myHtml.empty("input");
     myHtml.attribute("type", QStringLiteral("search"));
     myHtml.attribute("id", QStringLiteral("query"));
     myHtml.attribute("autocomplete", QStringLiteral("off"));
     myHtml.attribute("placeholder", KTToolText::tr("Number, name, class …"));
     myHtml.end();
-    myHtml.start("label");
-    myHtml.text(KTToolText::tr("Class") + QLatin1Char(' '));
+    label("class", KTToolText::tr("Class"));
     myHtml.start("select");
     myHtml.attribute("id", QStringLiteral("class"));
     myHtml.start("option");
@@ -380,7 +391,7 @@ void KTReportWriter::writeTable()
 
 void KTReportWriter::write(const KTReportArticle &article)
 {
-    KTArticleSection(&myHtml, article, footer()).write(myHead.olderName);
+    KTArticleSection(&myHtml, article, footer()).write(olderTitle());
 }
 
 bool KTReportWriter::end()

@@ -43,6 +43,7 @@ public:
 private:
     bool isCompared() const { return !myHead.olderName.isEmpty(); }
     QString title() const;
+    QString olderTitle() const;
     /** What stands on each printed article. */
     QString footer() const;
 
