@@ -11,7 +11,7 @@
  * Where the parts that the library makes an article of stand in its file. What the library skips, such as an
  * option without a value, is not counted.
  */
-class KTCATALOGUE_EXPORT KTArticlePlaces
+class KTArticlePlaces
 {
 public:
     /** The article must outlive the places. */
@@ -20,8 +20,9 @@ public:
     {
     }
 
-    /** The attribute where it is written, else the start tag; the article's own where the part is not there. */
-    [[nodiscard]] KTFileRange range(const KTArticlePart &part);
+    /** The attribute where it is written, else the start tag; the article's own where the part is not there.
+     */
+    [[nodiscard]] KTCATALOGUE_EXPORT KTFileRange range(const KTArticlePart &part);
 
 private:
     template <typename Predicate>

@@ -1,7 +1,10 @@
-// Takes the pictures of docs/report: screenshots.mjs CHROMIUM MODULES REPORT REPORT_WITH_CHANGES FOLDER
+// Takes the pictures of docs/report of the reports in the folder of modules: screenshots.mjs CHROMIUM MODULES FOLDER
 import {openBrowser, pageOf} from './browser.mjs';
 
-const [chromium, modules, report, changes, folder] = process.argv.slice(2);
+const [chromium, modules, folder] = process.argv.slice(2);
+const report = `${modules}/sample.html`;
+const changes = `${modules}/next.html`;
+const findings = `${modules}/found.html`;
 const browser = await openBrowser(chromium, modules);
 
 const DESKTOP = {width: 1280, height: 900};
@@ -27,6 +30,7 @@ await take('overview', report, {viewport: DESKTOP});
 await take('book', report, {viewport: TALL}, '', '#a7301');
 await take('calendar', report, {viewport: TALL}, '', '#a4120');
 await take('changes', changes, {viewport: DESKTOP});
+await take('findings', findings, {viewport: TALL}, '', '#a7301');
 await take('dark', report, {viewport: DESKTOP, colorScheme: 'dark'}, '#a7302');
 await take('narrow', report, {viewport: PHONE});
 await take('narrow-book', report, {viewport: PHONE}, '#a7301');

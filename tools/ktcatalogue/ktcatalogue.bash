@@ -11,7 +11,7 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show check diff order orders preview keywords --help --language --version -h -v"
+        words="show check diff order orders preview report keywords --help --language --version -h -v"
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
@@ -28,6 +28,7 @@ _ktcatalogue() {
         diff:--orders | diff:--list-orders) return ;;
         keywords:--format) words="text json markdown" ;;
         *:--language) words="de en" ;;
+        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .*/\1/p') ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)
@@ -44,6 +45,7 @@ _ktcatalogue() {
             orders:-*) words="--format --json" ;;
             order:-*) words="--article --pages --choose --format --json" ;;
             preview:-*) words="--all --article --format --output --page --pages --width -o" ;;
+            report:-*) words="--against --article --class --only-findings --output -o" ;;
             keywords:-*) words="--format --json" ;;
             keywords:*) words=$("$program" keywords 2>/dev/null | sed -n 's/^\(KT[A-Za-z]*\).*/\1/p') ;;
             esac

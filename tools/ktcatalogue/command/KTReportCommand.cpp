@@ -158,9 +158,11 @@ private:
     std::optional<KTExitCode> collect()
     {
         KTReportSource::Receiver receiver;
-        receiver.isWanted = [this](const KTArticle &article) { return isWanted(article); };
+        receiver.isWanted = [this](const KTArticle &article) {
+            myMissing.remove(article.articleId().id());
+            return isWanted(article);
+        };
         receiver.article = [this](const KTReportArticle &article) {
-            myMissing.remove(article.article.articleId().id());
             if (!myOptions.isOnlyFindings || !article.findings.isEmpty())
                 myContents.add(article, !myOptions.olderName.isEmpty());
         };

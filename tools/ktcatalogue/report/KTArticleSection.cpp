@@ -78,6 +78,29 @@ int drawnPages(const KTArticle &article)
     return pages;
 }
 
+/** What one has to know to read the drawings. */
+QString noteOf(const KTPreviewModel &model, int scale, int pages)
+{
+    const auto has = [&model](auto predicate) {
+        return std::any_of(model.figures.begin(), model.figures.end(), predicate);
+    };
+    const auto hasSpine = [](const KTPreviewModel::Figure &figure) { return !figure.spine.isEmpty(); };
+    const auto hasBleed = [](const KTPreviewModel::Figure &figure) {
+        return figure.panels.constFirst().usable.height() != figure.total.height();
+    };
+    const auto hasSlipcase
+        = [](const KTPreviewModel::Figure &figure) { return !figure.panels.constLast().slipcase.isEmpty(); };
+    QStringList sentences {
+        has(hasSpine)
+            ? KTToolText::tr("Scale 1 : %1, lengths in millimetres, at %2 pages.").arg(scale).arg(pages)
+            : KTToolText::tr("Scale 1 : %1, lengths in millimetres.").arg(scale)};
+    if (has(hasBleed))
+        sentences.append(KTToolText::tr("The red frame is the bleed."));
+    if (has(hasSlipcase))
+        sentences.append(KTToolText::tr("The dashed frame is the slipcase cover."));
+    return sentences.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 KTArticleSection::KTArticleSection(KTHtmlWriter *html, const KTReportArticle &article, const QString &footer)
@@ -174,11 +197,11 @@ void KTArticleSection::writeCode(const QString &label, const QString &text)
 void KTArticleSection::writeHead()
 {
     const KTArticle &article = myArticle.article;
+    const QString number = myArticle.number().isEmpty() ? KTToolText::tr("no number") : myArticle.number();
     myHtml->start("header");
     myHtml->start("h2");
     myHtml->attribute("id", QStringLiteral("t-") + myArticle.anchor());
-    myHtml->element("span", myArticle.number().isEmpty() ? KTToolText::tr("no number") : myArticle.number(),
-                    "nr");
+    myHtml->element("span", number, "nr");
     myHtml->text(QStringLiteral(" "));
     myHtml->foreign("span", article.name().isEmpty() ? KTToolText::tr("without a name") : article.name());
     myHtml->end();
@@ -208,7 +231,7 @@ void KTArticleSection::writeHead()
     myHtml->end();
     myHtml->end();
     // Printed only, on each sheet of the article.
-    myHtml->element("p", QStringLiteral("%1 · %2").arg(myArticle.number(), myFooter), "printed");
+    myHtml->element("p", QStringLiteral("%1 · %2").arg(number, myFooter), "printed");
     myHtml->end();
     myHtml->line();
 }
@@ -259,12 +282,7 @@ void KTArticleSection::writeDrawings()
         return;
     }
     const int scale = KTFigureSvg::scale(model->figures);
-    const bool hasSpine = !model->figures.constFirst().spine.isEmpty();
-    myHtml->element(
-        "p",
-        hasSpine ? KTToolText::tr("Scale 1 : %1, lengths in millimetres, at %2 pages.").arg(scale).arg(pages)
-                 : KTToolText::tr("Scale 1 : %1, lengths in millimetres.").arg(scale),
-        "note");
+    myHtml->element("p", noteOf(*model, scale, pages), "note");
     myHtml->start("div", "figures");
     for (const KTPreviewModel::Figure &figure : model->figures)
         KTFigureSvg::write(myHtml, figure, scale);

@@ -42,7 +42,8 @@ QString millimeters(double layoutUnits)
 
 QString sizeText(const QSizeF &size)
 {
-    return QStringLiteral("%1 × %2 mm").arg(millimeters(size.width()), millimeters(size.height()));
+    return QStringLiteral("%1\u00a0×\u00a0%2\u00a0mm")
+        .arg(millimeters(size.width()), millimeters(size.height()));
 }
 
 /** A figure in millimetres, drawn with marks and texts whose size does not depend on the scale. */

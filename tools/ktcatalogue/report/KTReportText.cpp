@@ -105,7 +105,7 @@ QString KTReportText::pageCounts(const KTArticle &article)
 
 QString KTReportText::millimeters(double layoutUnits)
 {
-    return KTHtmlWriter::number(KTMillimeterText::millimeters(layoutUnits)) + QStringLiteral(" mm");
+    return KTHtmlWriter::number(KTMillimeterText::millimeters(layoutUnits)) + QStringLiteral("\u00a0mm");
 }
 
 void KTReportText::writeTag(KTHtmlWriter *html, const QString &text, const char *style)

@@ -2,6 +2,7 @@
 
 #include "KTArticleSection.h"
 #include "KTFigureSvg.h"
+#include "KTFileName.h"
 #include "KTReportText.h"
 #include "KTToolText.h"
 
@@ -27,6 +28,13 @@ QString resource(const char *name)
 constexpr KTDifferenceKind KINDS_BY_GRAVITY[]
     = {KTDifferenceKind::Breaking, KTDifferenceKind::Charge, KTDifferenceKind::Production,
        KTDifferenceKind::Offer, KTDifferenceKind::Text};
+
+/** What the file is called, wherever it lies. */
+QString nameOf(const QString &file)
+{
+    return KTFileName::isStandardInput(file) ? KTToolText::tr("standard input")
+                                             : KTHtmlWriter::shortened(QFileInfo(file).fileName());
+}
 
 void beginSection(KTHtmlWriter *html, const char *id, const QString &title)
 {
@@ -60,12 +68,12 @@ KTReportWriter::KTReportWriter(QIODevice *device, const KTReportHead &head, KTRe
 
 QString KTReportWriter::title() const
 {
-    return KTHtmlWriter::shortened(QFileInfo(myHead.catalogueName).fileName());
+    return nameOf(myHead.catalogueName);
 }
 
 QString KTReportWriter::olderTitle() const
 {
-    return KTHtmlWriter::shortened(QFileInfo(myHead.olderName).fileName());
+    return nameOf(myHead.olderName);
 }
 
 QString KTReportWriter::footer() const
