@@ -168,8 +168,10 @@ std::optional<KTExitCode> KTReportSource::forEachArticle(const Receiver &receive
         article.article = KTArticle(source);
         if (!receiver.isWanted(article.article))
             continue;
-        if (const auto code = compare(&article))
+        if (const auto code = compare(&article)) {
+            progress.clear();
             return code;
+        }
         receiver.article(article);
     }
     while (finding)

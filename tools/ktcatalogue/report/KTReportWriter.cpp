@@ -222,7 +222,9 @@ void KTReportWriter::writeCounts()
     if (isCompared()) {
         writeCount(myContents->added(), KTToolText::tr("new"));
         writeCount(myContents->changed(), KTToolText::tr("changed"));
-        writeCount(myContents->removed(), KTToolText::tr("removed"));
+        // In a part of the catalogue nobody looked for them.
+        if (myHead.selection.isEmpty())
+            writeCount(myContents->removed(), KTToolText::tr("removed"));
     }
     myHtml.end();
     myHtml.line();

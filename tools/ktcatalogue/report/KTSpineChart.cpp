@@ -122,7 +122,7 @@ private:
         myHtml->empty("path", "grid");
         myHtml->attribute("d", grid);
         QString ticks;
-        const QVector<double> counts {myFirst, std::floor((myFirst + myLast) / 2.0), myLast};
+        const QVector<double> counts {myFirst, double(mySteps.at(mySteps.size() / 2).first), myLast};
         const char *const styles[] = {nullptr, "mid", "end"};
         for (int i = 0; i < counts.size(); ++i) {
             if (i > 0 && counts.at(i) <= counts.at(i - 1))
