@@ -2019,6 +2019,502 @@
 <context>
     <name>KTToolText</name>
     <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>%1 each</source>
+        <translation>je %1</translation>
+    </message>
+    <message>
+        <source>%1 further steps</source>
+        <translation>%1 weitere Stufen</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>%1 of %2 articles</source>
+        <translation>%1 von %2 Artikeln</translation>
+    </message>
+    <message>
+        <source>%1 to %2 pages</source>
+        <translation>%1 bis %2 Seiten</translation>
+    </message>
+    <message>
+        <source>%1 to %2, step %3</source>
+        <translation>%1 bis %2, Schritt %3</translation>
+    </message>
+    <message>
+        <source>%1, made on %2</source>
+        <translation>%1, erstellt am %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 mm</source>
+        <translation>%1: %2 mm</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 articles</source>
+        <translation>%1: %2 von %3 Artikeln</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3 mm</source>
+        <translation>%1: %2 bis %3 mm</translation>
+    </message>
+    <message>
+        <source>%1: catalogue report</source>
+        <translation>%1: Katalogbericht</translation>
+    </message>
+    <message>
+        <source>%1: there is no article of the class %2</source>
+        <translation>%1: es gibt keinen Artikel der Klasse %2</translation>
+    </message>
+    <message>
+        <source>%1… (%2 characters)</source>
+        <translation>%1… (%2 Zeichen)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no class of articles</source>
+        <translation>&apos;%1&apos; ist keine Artikelklasse</translation>
+    </message>
+    <message>
+        <source>&apos;report&apos; needs -o OUT</source>
+        <translation>&apos;report&apos; braucht -o OUT</translation>
+    </message>
+    <message>
+        <source>, compared with %1</source>
+        <translation>, verglichen mit %1</translation>
+    </message>
+    <message>
+        <source>--%1 needs the name of a catalogue</source>
+        <translation>--%1 braucht den Namen eines Katalogs</translation>
+    </message>
+    <message>
+        <source>All articles; the buttons in the heads of the columns sort them.</source>
+        <translation>Alle Artikel; die Schaltflächen in den Spaltenköpfen sortieren sie.</translation>
+    </message>
+    <message>
+        <source>All classes</source>
+        <translation>Alle Klassen</translation>
+    </message>
+    <message>
+        <source>Arrangement</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Article</source>
+        <translation>Artikel</translation>
+    </message>
+    <message>
+        <source>Articles</source>
+        <translation>Artikel</translation>
+    </message>
+    <message>
+        <source>Barcodes</source>
+        <translation>Barcodes</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>Bindung</translation>
+    </message>
+    <message>
+        <source>Box styles</source>
+        <translation>Boxvarianten</translation>
+    </message>
+    <message>
+        <source>Breaking</source>
+        <translation>Bruch</translation>
+    </message>
+    <message>
+        <source>By product class</source>
+        <translation>Nach Produktklasse</translation>
+    </message>
+    <message>
+        <source>Catalogue report, made on </source>
+        <translation>Katalogbericht, erstellt am </translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Changes since %1</source>
+        <translation>Änderungen seit %1</translation>
+    </message>
+    <message>
+        <source>Charge</source>
+        <translation>Berechnung</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Default choice</source>
+        <translation>Vorauswahl</translation>
+    </message>
+    <message>
+        <source>Drawings</source>
+        <translation>Zeichnungen</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Findings outside of articles</source>
+        <translation>Befunde außerhalb von Artikeln</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Left open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Nicht gezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>Not drawn: the article %1.</source>
+        <translation>Nicht gezeichnet: der Artikel %1.</translation>
+    </message>
+    <message>
+        <source>Nothing has changed.</source>
+        <translation>Nichts hat sich geändert.</translation>
+    </message>
+    <message>
+        <source>Nothing is preselected.</source>
+        <translation>Nichts ist vorausgewählt.</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Number, name, class …</source>
+        <translation>Nummer, Name, Klasse …</translation>
+    </message>
+    <message>
+        <source>Of the page counts %1 were looked at, evenly.</source>
+        <translation>Von den Seitenzahlen wurden %1 betrachtet, gleichmäßig verteilt.</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Angebot</translation>
+    </message>
+    <message>
+        <source>Only a part of the catalogue: %1</source>
+        <translation>Nur ein Teil des Katalogs: %1</translation>
+    </message>
+    <message>
+        <source>Only articles in which check finds something.</source>
+        <translation>Nur Artikel, in denen check etwas findet.</translation>
+    </message>
+    <message>
+        <source>Only articles of this class, such as book, or of several, separated by commas.</source>
+        <translation>Nur Artikel dieser Klasse, etwa book, oder mehrerer, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>Only changed</source>
+        <translation>Nur geänderte</translation>
+    </message>
+    <message>
+        <source>Only the article with this number; may be given several times.</source>
+        <translation>Nur der Artikel mit dieser Nummer; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Only with findings</source>
+        <translation>Nur mit Befunden</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Order text</source>
+        <translation>Bestelltext</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Page counts</source>
+        <translation>Seitenzahlen</translation>
+    </message>
+    <message>
+        <source>Page counts and spine</source>
+        <translation>Seitenzahlen und Buchrücken</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>Price class</source>
+        <translation>Preisklasse</translation>
+    </message>
+    <message>
+        <source>Production</source>
+        <translation>Produktion</translation>
+    </message>
+    <message>
+        <source>Removed articles</source>
+        <translation>Entfallene Artikel</translation>
+    </message>
+    <message>
+        <source>Says beside each article what has changed since this catalogue; - for standard input.</source>
+        <translation>Sagt bei jedem Artikel, was sich seit diesem Katalog geändert hat; - für die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Scale 1 : %1, lengths in millimetres, at %2 pages.</source>
+        <translation>Maßstab 1 : %1, Längen in Millimetern, bei %2 Seiten.</translation>
+    </message>
+    <message>
+        <source>Scale 1 : %1, lengths in millimetres.</source>
+        <translation>Maßstab 1 : %1, Längen in Millimetern.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Shipping group</source>
+        <translation>Versandgruppe</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Skip to the articles</source>
+        <translation>Zu den Artikeln springen</translation>
+    </message>
+    <message>
+        <source>Spine</source>
+        <translation>Buchrücken</translation>
+    </message>
+    <message>
+        <source>Spot colours</source>
+        <translation>Veredelungen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Überblick</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>The article offers no options.</source>
+        <translation>Der Artikel bietet keine Optionen an.</translation>
+    </message>
+    <message>
+        <source>The dashed frame is the slipcase cover.</source>
+        <translation>Der gestrichelte Rahmen ist die Schuberdecke.</translation>
+    </message>
+    <message>
+        <source>The red frame is the bleed.</source>
+        <translation>Der rote Rahmen ist der Beschnitt.</translation>
+    </message>
+    <message>
+        <source>The spine is %1 mm wide at %2 pages</source>
+        <translation>Der Buchrücken ist bei %2 Seiten %1 mm breit</translation>
+    </message>
+    <message>
+        <source>The spine is %1 mm wide at %2 pages and %3 mm at %4 pages</source>
+        <translation>Der Buchrücken ist bei %2 Seiten %1 mm und bei %4 Seiten %3 mm breit</translation>
+    </message>
+    <message>
+        <source>To the table</source>
+        <translation>Zur Tabelle</translation>
+    </message>
+    <message>
+        <source>Values as a table</source>
+        <translation>Werte als Tabelle</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Writes the catalogue as a page to look at in a browser, or to print: a table that sorts and filters, and for each article its pages drawn to scale, its options, the spine, the default choice, and what check finds.</source>
+        <translation>Schreibt den Katalog als Seite, die man im Browser ansieht oder druckt: eine Tabelle, die sortiert und filtert, und zu jedem Artikel seine Seiten maßstäblich gezeichnet, seine Optionen, den Buchrücken, die Vorauswahl und was check findet.</translation>
+    </message>
+    <message>
+        <source>Writes the catalogue as a page to look at.</source>
+        <translation>Schreibt den Katalog als Seite zum Ansehen.</translation>
+    </message>
+    <message>
+        <source>Writes to OUT, a page of HTML that needs no other file; - for standard output. A file that is there is replaced once the page is complete.</source>
+        <translation>Schreibt nach OUT, eine HTML-Seite, die keine andere Datei braucht; - für die Standardausgabe. Eine vorhandene Datei wird ersetzt, sobald die Seite vollständig ist.</translation>
+    </message>
+    <message>
+        <source>articles</source>
+        <translation>Artikel</translation>
+    </message>
+    <message>
+        <source>articles of the class %1</source>
+        <translation>Artikel der Klasse %1</translation>
+    </message>
+    <message>
+        <source>articles with findings</source>
+        <translation>Artikel mit Befunden</translation>
+    </message>
+    <message>
+        <source>barcode on page %1: %2</source>
+        <translation>Barcode auf Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>hints</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>it has changed since it was read first</source>
+        <translation>sie hat sich geändert, seit sie zuerst gelesen wurde</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>lines %1 to %2</source>
+        <translation>Zeilen %1 bis %2</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>new line %1</source>
+        <translation>neue Zeile %1</translation>
+    </message>
+    <message>
+        <source>no class</source>
+        <translation>keine Klasse</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>ohne Nummer</translation>
+    </message>
+    <message>
+        <source>no room for the findings: %1</source>
+        <translation>kein Platz für die Befunde: %1</translation>
+    </message>
+    <message>
+        <source>not charged</source>
+        <translation>nicht berechnet</translation>
+    </message>
+    <message>
+        <source>not understood: &apos;%1&apos;</source>
+        <translation>nicht verstanden: &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>of it %1 added on each side</source>
+        <translation>davon %1 Zugabe auf jeder Seite</translation>
+    </message>
+    <message>
+        <source>old line %1</source>
+        <translation>alte Zeile %1</translation>
+    </message>
+    <message>
+        <source>preview %1</source>
+        <translation>Vorschau %1</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfallen</translation>
+    </message>
+    <message>
+        <source>slipcase cover %1</source>
+        <translation>Schuberdecke %1</translation>
+    </message>
+    <message>
+        <source>the articles %1</source>
+        <translation>die Artikel %1</translation>
+    </message>
+    <message>
+        <source>transparent</source>
+        <translation>durchsichtig</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>with bleed %1</source>
+        <translation>mit Beschnitt %1</translation>
+    </message>
+    <message>
+        <source>without a name</source>
+        <translation>ohne Namen</translation>
+    </message>
+    <message>
         <source>The number of the article.</source>
         <translation>Die Nummer des Artikels.</translation>
     </message>

@@ -2,13 +2,14 @@
 
 #include "KTCatalogueArticle.h"
 #include "KTDifference.h"
+#include "ktcatalogue_export.h"
 
 #include <QHash>
 #include <QVector>
 
 /**
  * Where the parts that the library makes an article of stand in its file. What the library skips, such as an
- * option without a value, is not counted. Not part of the library's interface.
+ * option without a value, is not counted.
  */
 class KTArticlePlaces
 {
@@ -21,7 +22,7 @@ public:
 
     /** The attribute where it is written, else the start tag; the article's own where the part is not there.
      */
-    [[nodiscard]] KTFileRange range(const KTArticlePart &part);
+    [[nodiscard]] KTCATALOGUE_EXPORT KTFileRange range(const KTArticlePart &part);
 
 private:
     template <typename Predicate>

@@ -11,7 +11,7 @@ _ktcatalogue() {
     fi
 
     if [ "$COMP_CWORD" -eq 1 ]; then
-        words="show check diff order orders preview keywords schema --help --language --version -h -v"
+        words="show check diff order orders preview report keywords schema --help --language --version -h -v"
     else
         case $command:$previous in
         check:--format) words="text json sarif" ;;
@@ -29,6 +29,7 @@ _ktcatalogue() {
         keywords:--format) words="text json markdown" ;;
         schema:--format) words="xsd rng" ;;
         *:--language) words="de en" ;;
+        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .*/\1/p') ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)
@@ -45,6 +46,7 @@ _ktcatalogue() {
             orders:-*) words="--format --json" ;;
             order:-*) words="--article --pages --choose --format --json" ;;
             preview:-*) words="--all --article --format --output --page --pages --width -o" ;;
+            report:-*) words="--against --article --class --only-findings --output -o" ;;
             keywords:-*) words="--format --json" ;;
             schema:-*) words="--format --output -o" ;;
             keywords:*) words=$("$program" keywords 2>/dev/null | sed -n 's/^\(KT[A-Za-z]*\).*/\1/p') ;;

@@ -7,6 +7,7 @@
 #include "KTOrderCommand.h"
 #include "KTOrdersCommand.h"
 #include "KTPreviewCommand.h"
+#include "KTReportCommand.h"
 #include "KTSchemaCommand.h"
 #include "KTShowCommand.h"
 #include "KTToolText.h"
@@ -46,6 +47,8 @@ constexpr CommandRow COMMANDS[] = {
      &KTOrdersCommand::run  },
     {DRAWING_COMMAND, QT_TRANSLATE_NOOP("KTToolText", "Draws the cover of an article to scale."),
      &KTPreviewCommand::run },
+    {"report",        QT_TRANSLATE_NOOP("KTToolText", "Writes the catalogue as a page to look at."),
+     &KTReportCommand::run  },
     {"keywords",      QT_TRANSLATE_NOOP("KTToolText", "Shows the keyword tables of the classifications."),
      &KTKeywordsCommand::run},
     {"schema",        QT_TRANSLATE_NOOP("KTToolText", "Writes a schema of the format, for editors."),
