@@ -3,12 +3,15 @@
 
 #include <KTArticle.h>
 #include <KTArticleReport.h>
+#include <KTArticleSection.h>
 #include <KTCatalogueChecker.h>
 #include <KTCatalogueReader.h>
+#include <KTHtmlWriter.h>
 #include <KTOrderDraft.h>
 
 #include <QBuffer>
 #include <QJsonDocument>
+#include <QXmlStreamReader>
 
 namespace {
 
@@ -30,6 +33,26 @@ Reading read(QIODevice *file)
     }
     reading.error = reader.error();
     return reading;
+}
+
+/** A page about the article is well-formed, and nothing in it acts. */
+void requireReport(const KTCatalogueArticle &source, const KTArticle &model)
+{
+    KTReportArticle article;
+    article.source = &source;
+    article.article = model;
+    QBuffer page;
+    KT_REQUIRE(page.open(QIODevice::ReadWrite));
+    KTHtmlWriter html(&page);
+    KTArticleSection(&html, article, QString()).write(QString());
+    KT_REQUIRE(!html.hasError() && page.seek(0));
+    QXmlStreamReader reader(&page);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement)
+            KT_REQUIRE(reader.name() != QLatin1String("script")
+                       && !reader.attributes().hasAttribute(QStringLiteral("onclick")));
+    }
+    KT_REQUIRE(!reader.hasError());
 }
 
 /** However the file comes, what is read is the same. */
@@ -76,6 +99,8 @@ void KTFuzz::catalogue(Bytes input)
             // A terminal gets nothing but lines of visible text.
             for (const QChar character : KTArticleReport::toText(model, pageCounts))
                 KT_REQUIRE(character == u'\n' || character.category() != QChar::Other_Control);
+        if (question & Boundaries)
+            requireReport(article, model);
         for (const int wish : KTTest::INTS)
             use(KTOrderDraft(model).setPages(wish));
     }

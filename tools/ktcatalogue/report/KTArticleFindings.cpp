@@ -54,43 +54,59 @@ Topic topicOf(const KTFinding &finding)
     }
 }
 
+qint64 placeOf(const KTFinding &finding)
+{
+    return finding.range.begin.offset;
+}
+
 } // namespace
 
 KTArticleFindings::KTArticleFindings(const KTReportArticle &article)
 {
     for (const KTFinding &finding : article.findings)
-        myFindings[static_cast<std::size_t>(topicOf(finding))].append(&finding);
-}
-
-template <typename Predicate>
-KTArticleFindings::List KTArticleFindings::takeWhere(Topic topic, Predicate isWanted)
-{
-    List &all = myFindings[static_cast<std::size_t>(topic)];
-    const auto rest = std::stable_partition(all.begin(), all.end(),
-                                            [&](const KTFinding *finding) { return !isWanted(*finding); });
-    List taken;
-    std::copy(rest, all.end(), std::back_inserter(taken));
-    all.erase(rest, all.end());
-    return taken;
+        entries(topicOf(finding)).append({&finding, false});
+    for (QVector<Entry> &list : myEntries) {
+        std::stable_sort(list.begin(), list.end(), [](const Entry &first, const Entry &second) {
+            return placeOf(*first.finding) < placeOf(*second.finding);
+        });
+    }
 }
 
 KTArticleFindings::List KTArticleFindings::take(Topic topic, const QString &attribute)
 {
-    return takeWhere(topic, [&](const KTFinding &finding) {
-        return finding.attribute == attribute
-            && finding.element == KTCatalogueFormat::elementName(KTElementKind::Article);
-    });
+    const QString article = KTCatalogueFormat::elementName(KTElementKind::Article);
+    List taken;
+    for (Entry &entry : entries(topic)) {
+        if (entry.isTaken || entry.finding->attribute != attribute || entry.finding->element != article)
+            continue;
+        entry.isTaken = true;
+        taken.append(entry.finding);
+    }
+    return taken;
 }
 
 KTArticleFindings::List KTArticleFindings::take(Topic topic, const KTFileRange &range)
 {
-    return takeWhere(topic, [&](const KTFinding &finding) {
-        const qint64 place = finding.range.begin.offset;
-        return place >= range.begin.offset && place < range.end.offset;
-    });
+    QVector<Entry> &list = entries(topic);
+    List taken;
+    const auto begin
+        = std::lower_bound(list.begin(), list.end(), range.begin.offset,
+                           [](const Entry &entry, qint64 place) { return placeOf(*entry.finding) < place; });
+    for (auto entry = begin; entry != list.end() && placeOf(*entry->finding) < range.end.offset; ++entry) {
+        if (entry->isTaken)
+            continue;
+        entry->isTaken = true;
+        taken.append(entry->finding);
+    }
+    return taken;
 }
 
 KTArticleFindings::List KTArticleFindings::takeRest(Topic topic)
 {
-    return std::exchange(myFindings[static_cast<std::size_t>(topic)], List());
+    List taken;
+    for (const Entry &entry : std::exchange(entries(topic), {})) {
+        if (!entry.isTaken)
+            taken.append(entry.finding);
+    }
+    return taken;
 }

@@ -34,8 +34,14 @@ public:
     List takeRest(Topic topic);
 
 private:
-    template <typename Predicate>
-    List takeWhere(Topic topic, Predicate isWanted);
+    struct Entry
+    {
+        const KTFinding *finding;
+        bool isTaken;
+    };
 
-    std::array<List, static_cast<std::size_t>(Topic::COUNT)> myFindings;
+    QVector<Entry> &entries(Topic topic) { return myEntries[static_cast<std::size_t>(topic)]; }
+
+    /** By their places, so that the cost of looking for one does not grow with an article's mistakes. */
+    std::array<QVector<Entry>, static_cast<std::size_t>(Topic::COUNT)> myEntries;
 };
