@@ -112,7 +112,9 @@ private:
     void writeAxes()
     {
         QString grid;
-        for (double width = 0.0; width <= myHighest * 1.001; width += myStep) {
+        const int lines = KTArithmetic::rounded(myHighest / myStep);
+        for (int i = 0; i <= lines; ++i) {
+            const double width = i * myStep;
             grid += QStringLiteral("M%1 %2H%3")
                         .arg(LEFT)
                         .arg(KTHtmlWriter::number(y(width)))
@@ -122,7 +124,8 @@ private:
         myHtml->empty("path", "grid");
         myHtml->attribute("d", grid);
         QString ticks;
-        const QVector<double> counts {myFirst, double(mySteps.at(mySteps.size() / 2).first), myLast};
+        const Step &middle = mySteps.at(mySteps.size() / 2);
+        const QVector<double> counts {myFirst, double(middle.first), myLast};
         const char *const styles[] = {nullptr, "mid", "end"};
         for (int i = 0; i < counts.size(); ++i) {
             if (i > 0 && counts.at(i) <= counts.at(i - 1))
