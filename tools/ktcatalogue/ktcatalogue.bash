@@ -28,7 +28,7 @@ _ktcatalogue() {
         diff:--orders | diff:--list-orders) return ;;
         keywords:--format) words="text json markdown" ;;
         *:--language) words="de en" ;;
-        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .*/\1/p') ;;
+        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .* 0x.*/\1/p') ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)
