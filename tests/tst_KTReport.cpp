@@ -43,7 +43,7 @@ private Q_SLOTS:
     void writesForTwoLanguages()
     {
         const auto [expected, name] = KTTest::row<QString, QString>();
-        QCOMPARE(written([&](KTHtmlWriter *html) {
+        QCOMPARE(written([name = name](KTHtmlWriter *html) {
                      html->start(qPrintable(name));
                      html->end();
                  }),
@@ -61,7 +61,7 @@ private Q_SLOTS:
     void showsTexts()
     {
         const auto [expected, text] = KTTest::row<QString, QString>();
-        QCOMPARE(written([&](KTHtmlWriter *html) { html->element("b", text); }),
+        QCOMPARE(written([text = text](KTHtmlWriter *html) { html->element("b", text); }),
                  u"<b>%1</b>"_s.arg(expected));
     }
 
