@@ -32,6 +32,6 @@ await take('calendar', report, {viewport: TALL}, '', '#a4120');
 await take('changes', changes, {viewport: DESKTOP});
 await take('findings', findings, {viewport: TALL}, '', '#a7301');
 await take('dark', report, {viewport: DESKTOP, colorScheme: 'dark'}, '#a7302');
-await take('narrow', report, {viewport: PHONE});
+await take('narrow', report, {viewport: PHONE}, '#articles');
 await take('narrow-book', report, {viewport: PHONE}, '#a7301');
 await browser.close();

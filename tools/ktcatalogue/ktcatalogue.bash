@@ -29,7 +29,7 @@ _ktcatalogue() {
         keywords:--format) words="text json markdown" ;;
         schema:--format) words="xsd rng" ;;
         *:--language) words="de en" ;;
-        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .*/\1/p') ;;
+        report:--class) words=$("$program" keywords KTArticleClass 2>/dev/null | sed -n 's/^  \([a-z_]*\) .* 0x.*/\1/p') ;;
         *:--article | *:--choose | *:--pages) return ;;
         *:-o | *:--output) return ;;
         *)

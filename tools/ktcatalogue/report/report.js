@@ -63,6 +63,15 @@
         body.append(...rows.slice().sort(column < 0 ? byOrder : compare));
     }
 
+    function clear() {
+        query.value = '';
+        chosenClass.value = '';
+        found.checked = false;
+        if (changed) {
+            changed.checked = false;
+        }
+    }
+
     function remember() {
         const parts = new URLSearchParams();
         const add = (name, value) => value && parts.set(name, value);
@@ -81,7 +90,7 @@
         if (isArticle(name)) {
             const article = get(name);
             if (article && article.hidden) {
-                form.reset();
+                clear();
                 filter();
                 article.scrollIntoView();
             }
@@ -108,10 +117,13 @@
         filter();
         remember();
     });
-    form.addEventListener('reset', () => setTimeout(() => {
+    form.addEventListener('reset', event => {
+        // The browser would do so after everybody has heard of it.
+        event.preventDefault();
+        clear();
         filter();
         remember();
-    }));
+    });
     buttons.forEach(button => button.addEventListener('click', () => {
         state.descending = state.sort === button.dataset.sort && !state.descending;
         state.sort = button.dataset.sort;
