@@ -3120,7 +3120,7 @@ Beispiel:
     </message>
     <message>
         <source>has a %1 of %2 mm; a preview shows sides from %3 to %4 mm</source>
-        <translation>hat ein %1 von %2 mm; eine Vorschau zeigt Seiten von %3 bis %4 mm</translation>
+        <translation>hat als %1 %2 mm; eine Vorschau zeigt Seiten von %3 bis %4 mm</translation>
     </message>
     <message>
         <source>page &apos;%1&apos;</source>

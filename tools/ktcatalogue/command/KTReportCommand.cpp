@@ -4,6 +4,7 @@
 #include "KTConsole.h"
 #include "KTFileName.h"
 #include "KTLogSilence.h"
+#include "KTMakingTime.h"
 #include "KTReportSource.h"
 #include "KTReportWriter.h"
 #include "KTToolText.h"
@@ -88,14 +89,6 @@ std::optional<KTExitCode> readOptions(const KTCommandLine &commandLine, Options 
         && KTFileName::isStandardInput(commandLine.fileName()))
         return KTConsole::failUsage(KTToolText::tr("standard input can be read only once"));
     return parser.isSet(CLASS) ? readClass(parser.value(CLASS), &options->only) : std::nullopt;
-}
-
-/** The present time, or the one at which everything counts as made where builds are to be the same. */
-QDateTime makingTime()
-{
-    bool ok = false;
-    const qint64 seconds = qgetenv("SOURCE_DATE_EPOCH").toLongLong(&ok);
-    return ok ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTimeUtc();
 }
 
 /** A catalogue, readable so far, and the report that is made of it. */
@@ -211,8 +204,11 @@ private:
 
     bool write(QIODevice *device)
     {
-        KTReportWriter writer(
-            device, {myCommandLine.fileName(), myOptions.olderName, makingTime(), selection()}, &myContents);
+        KTReportWriter writer(device,
+                              {myCommandLine.fileName(), myOptions.olderName,
+                               KTMakingTime::demanded().value_or(QDateTime::currentDateTimeUtc()),
+                               selection()},
+                              &myContents);
         writer.begin();
         KTReportSource::Receiver receiver;
         receiver.isWanted = [this](const KTArticle &article) { return isWanted(article); };

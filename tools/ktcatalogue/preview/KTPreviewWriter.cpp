@@ -1,10 +1,10 @@
 #include "KTPreviewWriter.h"
 
+#include "KTMakingTime.h"
 #include "KTPreviewPainter.h"
 
 #include <KTQtTypes.h>
 
-#include <QDateTime>
 #include <QHash>
 #include <QImage>
 #include <QPageSize>
@@ -30,18 +30,6 @@ bool paintOn(QPaintDevice *device, const KTPreviewPainter &preview, double scale
     painter.scale(scale, scale);
     preview.paint(&painter);
     return painter.end();
-}
-
-/** The time that everything counts as made at, where builds are to be the same; empty for the present one. */
-QByteArray sourceDate()
-{
-    bool ok = false;
-    const qint64 seconds = qgetenv("SOURCE_DATE_EPOCH").toLongLong(&ok);
-    if (!ok)
-        return QByteArray();
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC)
-        .toString(QStringLiteral("yyyyMMddhhmmss"))
-        .toLatin1();
 }
 
 /** Puts the date asked for in place of the present one, which Qt writes in one piece with its label. */
@@ -141,8 +129,10 @@ bool KTPreviewWriter::addPdf(const KTPreviewModel &model)
                           QString(), QPageSize::ExactMatch);
     const bool isFirst = !myPdf;
     if (isFirst) {
-        const QByteArray date = sourceDate();
-        if (!date.isEmpty()) {
+        const std::optional<QDateTime> made = KTMakingTime::demanded();
+        const QByteArray date
+            = made ? made->toString(QStringLiteral("yyyyMMddhhmmss")).toLatin1() : QByteArray();
+        if (made) {
             // Fonts are written in the order of a hash table. In UTC, Qt's date is as long as the other one.
             qSetGlobalQHashSeed(0);
             qputenv("TZ", "UTC");
